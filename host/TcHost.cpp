@@ -1,0 +1,120 @@
+// The lookups of the host by name, through the dynamic linker.
+#include "TcHost.h"
+
+#include <dlfcn.h>
+
+#include "HostLookup.h"
+
+namespace tc {
+
+namespace {
+
+void* symbolOfProgram(const char* name)
+{
+  return dlsym(RTLD_DEFAULT, name);
+}
+
+// A library already loaded by the process, or null; never loads one.
+void* loadedLibrary(const char* name)
+{
+  return dlopen(name, RTLD_NOW | RTLD_NOLOAD);
+}
+
+IApp* g_app = nullptr; // counted; kept for the life of the module
+
+} // namespace
+
+void* hostMainLibrary()
+{
+  if (auto instance = reinterpret_cast<GetMainDllInstanceFn>(symbolOfProgram("GetMainDllInstance")))
+    return instance();
+  if (void* view = loadedLibrary("libhostview.so"))
+    return view;
+  if (void* app = loadedLibrary("libhostapp.so")) {
+    if (auto ex = reinterpret_cast<GetMainDllInstanceFn>(dlsym(app, "GetMainDllInstanceEx")))
+      return ex();
+  }
+  return nullptr;
+}
+
+HostServices* hostServices()
+{
+  void* library = hostMainLibrary();
+  if (!library)
+    return nullptr;
+  auto funcPtr = reinterpret_cast<GetHostFuncPtrFn>(dlsym(library, "get_host_funcptr"));
+  if (!funcPtr)
+    return nullptr;
+  auto services = reinterpret_cast<HostServicesFn>(funcPtr(kHostServicesFuncId));
+  return services ? services() : nullptr;
+}
+
+CRkPtr<ICmdFactory> hostCmdFactory()
+{
+  void* library = nullptr;
+  if (auto name = reinterpret_cast<GetMainDllNameWFn>(symbolOfProgram("GetMainDllNameW"))) {
+    const OdString file(name());
+    library = loadedLibrary(file.toUtf8().c_str());
+  }
+  if (!library)
+    library = loadedLibrary("libhostview.so");
+  if (!library) {
+    if (void* app = loadedLibrary("libhostapp.so"))
+      if (auto ex = reinterpret_cast<GetMainDllInstanceFn>(dlsym(app, "GetMainDllInstanceEx")))
+        library = ex();
+  }
+  if (!library)
+    return CRkPtr<ICmdFactory>();
+  auto create = reinterpret_cast<NewICmdFactoryFn>(dlsym(library, "new_ICmdFactory"));
+  if (!create)
+    return CRkPtr<ICmdFactory>();
+  CRkPtr<ICmdFactory> factory;
+  create(factory.put());
+  return factory;
+}
+
+CRkPtr<IApp> hostApp()
+{
+  if (!g_app) {
+    GetAppFn getApp = nullptr;
+    if (void* app = loadedLibrary("libhostapp.so"))
+      getApp = reinterpret_cast<GetAppFn>(dlsym(app, "GetApp"));
+    if (!getApp) {
+      if (auto instance = reinterpret_cast<GetMainDllInstanceFn>(symbolOfProgram("GetMainDllInstance"))) {
+        if (void* library = instance())
+          getApp = reinterpret_cast<GetAppFn>(dlsym(library, "GetApp"));
+      } else if (void* core = loadedLibrary("libhostcore.so")) {
+        // A host without the main-library lookup creates its application
+        // through the core's object factory.
+        using CreateObjectFn = int (*)(const char* clsid, void* outer, const char* iid, void** out);
+        if (auto create = reinterpret_cast<CreateObjectFn>(dlsym(core, "_CreateObjectC@16"))) {
+          void* out = nullptr;
+          if (create("CLSID_APP", nullptr, IApp::kIID, &out) && out)
+            g_app = static_cast<IApp*>(out);
+        }
+      }
+    }
+    if (!g_app && getApp)
+      g_app = getApp();
+  }
+  return CRkPtr<IApp>(g_app);
+}
+
+HostCommandOutput* hostCommandOutput()
+{
+  HostServices* services = hostServices();
+  if (!services)
+    return nullptr;
+  if (HostDocument* document = services->currentDocument())
+    if (HostCommandOutput* out = document->commandOutput())
+      return out;
+  return services->commandOutput();
+}
+
+void hostResetCache()
+{
+  if (IApp* app = std::exchange(g_app, nullptr))
+    app->release();
+}
+
+} // namespace tc

@@ -1,0 +1,42 @@
+// How the module finds its host: the three lookups by name, and the command
+// line that user messages go to.
+#pragma once
+
+#include "AppInterfaces.h"
+#include "CmdInterfaces.h"
+#include "HostServices.h"
+
+namespace tc {
+
+// The handle of the host's main library: "GetMainDllInstance" of the
+// program, else the loaded "hostview", else "GetMainDllInstanceEx" of the
+// loaded "hostapp". Null when none answers.
+void* hostMainLibrary();
+
+// HostServices through get_host_funcptr(2) of the main library; null when the
+// host does not offer it. The module treats the host as always present.
+HostServices* hostServices();
+
+// A new counted command factory, or null (then nothing gets registered).
+CRkPtr<ICmdFactory> hostCmdFactory();
+
+// The application object, looked up once and cached after the first
+// success. A counted reference for the caller.
+CRkPtr<IApp> hostApp();
+
+// The command line for user messages: the current document's, or the
+// application's when there is no document. Null without a host.
+HostCommandOutput* hostCommandOutput();
+
+// Prints a message for the user; the text is a format.
+template <class... Args>
+void hostPrint(const OdString& format, const Args&... args)
+{
+  if (HostCommandOutput* out = hostCommandOutput())
+    out->print(format, args...);
+}
+
+// Forgets the cached application object (for a host that restarts).
+void hostResetCache();
+
+} // namespace tc

@@ -1,0 +1,40 @@
+// The host's core services: translation of user texts and file tests.
+#pragma once
+
+#include "OdString.h"
+
+// The host's translation of a key or text. Without an installed catalog, or
+// for a text the catalog lacks, the text comes back unchanged.
+OdString Supp_Translate(const OdString& text);
+
+// Installs a translation catalog: a file of lines "source<TAB>translation"
+// (UTF-8; "\n" and "\t" escapes allowed). An empty path removes it. Returns
+// false when the file cannot be read.
+bool Supp_InstallTranslations(const OdString& catalogFile);
+
+// True when a file or folder of that path exists.
+bool Fio_IsFileExist(const OdString& path);
+
+// True when `folder` exists and a file can be created in it: tested by
+// creating and removing a file, since permission bits alone do not tell on
+// read-only mounts.
+bool Fio_IsWritableDir(const OdString& folder);
+
+// Message boxes of the host. Styles as the host knows them: 0 OK, 1 OK and
+// Cancel, 4 Yes and No, 3 Yes, No and Cancel; plus 16 error, 32 question,
+// 48 warning, 64 information. Answers: 1 OK, 2 Cancel, 6 Yes, 7 No.
+enum HostMessageBoxAnswer
+{
+  kHostIdOk = 1,
+  kHostIdCancel = 2,
+  kHostIdYes = 6,
+  kHostIdNo = 7
+};
+using HostMessageBoxHandler = int (*)(const OdString& text, const OdString& caption, unsigned style);
+// The host installs how boxes are shown: a window in the desktop program, a
+// print on the command line in the console (which answers the default
+// button, so that scripts never wait).
+void hostSetMessageBoxHandler(HostMessageBoxHandler handler);
+int hostMessageBox(const OdString& text, const OdString& caption, unsigned style);
+// The answer a box of that style gives without a user: its first button.
+int hostDefaultMessageBoxAnswer(unsigned style);

@@ -1,0 +1,65 @@
+// HostServices: what the host offers a module at run time: the current
+// document and its command line, the editor events, the completion registry
+// and the main window.
+#pragma once
+
+#include "HostEdCompletion.h"
+#include "HostEditorReactor.h"
+
+class OdDbDatabase;
+class QWidget;
+
+// Writes to a command line. The text is a format: "%%" prints one percent
+// sign, and specifiers take the arguments that follow.
+class HostCommandOutput
+{
+public:
+  virtual ~HostCommandOutput() = default;
+  virtual void printText(const OdString& text) = 0;
+
+  template <class... Args>
+  void print(const OdString& format, const Args&... args)
+  {
+    printText(OdString::formatted(format, args...));
+  }
+};
+
+class HostDocument
+{
+public:
+  virtual ~HostDocument() = default;
+  virtual HostCommandOutput* commandOutput() = 0;
+  virtual OdString documentName() const = 0;
+  // The drawing of the document; null until the host has drawings.
+  virtual OdDbDatabase* database() { return nullptr; }
+  // Types text on the document's command line, in the host's macro
+  // notation ("^C" cancels, "^M" or a new line ends an input).
+  virtual void sendCommand(const OdString& text) = 0;
+  // Locks the document for changes outside a command, under a name.
+  virtual void lockDocument(const OdString& name) {}
+  virtual void unlockDocument() {}
+};
+
+// The source of editor events. Reactors are not owned; a reactor removes
+// itself before it goes.
+class HostEditorEvents
+{
+public:
+  virtual ~HostEditorEvents() = default;
+  virtual void addReactor(HostEditorReactor* reactor) = 0;
+  virtual void removeReactor(HostEditorReactor* reactor) = 0;
+};
+
+class HostServices
+{
+public:
+  virtual ~HostServices() = default;
+  // The active document, null if none.
+  virtual HostDocument* currentDocument() = 0;
+  // The application's own command line, for messages without a document.
+  virtual HostCommandOutput* commandOutput() = 0;
+  virtual HostEditorEvents* editorEvents() = 0;
+  virtual HostEdCompletion::Registry* completionRegistry() = 0;
+  // The main window; null in a host without windows.
+  virtual QWidget* mainWindow() = 0;
+};

@@ -1,0 +1,91 @@
+// OdTcPersistImpl<I>: the common implementation of OdTcPersist for any
+// interface I derived from it.
+#pragma once
+
+#include "OdTcContainerHooks.h"
+#include "OdTcFiler.h"
+#include "OdTcPersist.h"
+
+namespace tc {
+
+template <class I>
+class OdTcPersistImpl : public I
+{
+public:
+  bool readAttributes(OdTcFiler* filer) override
+  {
+    filer->push(this);
+    OdTcValueMap values;
+    filer->readAttributes(values);
+    for (const auto& [name, value] : values)
+      setValue(name, value);
+    filer->pop(false);
+    return true;
+  }
+
+  // Reads child elements as named values until the filer runs out; a name
+  // that no class claims is dropped without a word.
+  bool read(OdTcFiler* filer) override
+  {
+    filer->push(this);
+    OdTcValueMap values;
+    while (filer->readNext(values)) {
+      for (const auto& [name, value] : values)
+        setValue(name, value);
+      values.clear();
+    }
+    filer->pop(true);
+    return true;
+  }
+
+  void write(OdTcFiler* filer) override { writeBody(filer); }
+  void setParent(OdTcPersist* parent) override { m_parent = parent; }
+  OdString tagName() const override { return "OdTcPersist"; }
+  void setLabel(const OdString& label) override { m_label = label; }
+  const OdTcPersist* parent() const override { return m_parent; }
+  OdTcPersist* parent() override { return m_parent; }
+
+  // Walks up; an object that is its own parent ends the walk.
+  OdTcDatabase* database() override
+  {
+    return (m_parent && m_parent != this) ? m_parent->database() : nullptr;
+  }
+  OdTcCatalog* catalog() override
+  {
+    return (m_parent && m_parent != this) ? m_parent->catalog() : nullptr;
+  }
+  bool hasChildren() const override { return false; }
+  OdString displayName() const override { return OdString(); }
+
+  void attachToDatabase(OdTcPersist* parent, const OdString&) override
+  {
+    m_parent = parent;
+    if (OdTcDatabase* db = database())
+      odtcRegisterWithDatabase(db, this);
+  }
+  void attachToCatalog(OdTcPersist* parent) override
+  {
+    m_parent = parent;
+    if (OdTcCatalog* cat = catalog())
+      odtcRegisterWithCatalog(cat, this);
+  }
+  void setOwner(OdTcPersist* parent) override { m_parent = parent; }
+
+  // The writes of this class, in file order.
+  virtual void writeBody(OdTcFiler* filer) {}
+  // A second sequence after the body; empty unless a class needs one.
+  virtual void writeTail(OdTcFiler* filer) {}
+  // Takes one named value; true if the name is one of this class's.
+  virtual bool setValue(const OdString& name, const OdVariant& value) { return false; }
+
+  const OdString& label() const { return m_label; }
+
+protected:
+  // The clone's own part: the parent link. Classes add their fields.
+  void copyPersistFrom(const OdTcPersistImpl& source) { m_parent = source.m_parent; }
+
+  OdString m_label;
+  OdTcPersist* m_parent = nullptr; // not owned: ownership runs downward
+};
+
+} // namespace tc

@@ -1,0 +1,45 @@
+// Start and stop of the module.
+#include "OdTcModule.h"
+
+#include "TcClassTable.h"
+#include "TcHost.h"
+#include "TcModuleState.h"
+#include "TcToolCompletion.h"
+
+#include <dlfcn.h>
+
+namespace tc {
+
+void OdTcModule::deleteModule()
+{
+  moduleObject = nullptr;
+  delete this;
+}
+
+void OdTcModule::initApp()
+{
+  registerModuleClasses();
+  paletteVisible = false;
+  if (HostServices* services = hostServices())
+    if (HostEdCompletion::Registry* registry = services->completionRegistry())
+      registry->addProvider("tools", toolCompletionProvider());
+}
+
+void OdTcModule::uninitApp()
+{
+  unregisterModuleClasses();
+  if (HostServices* services = hostServices())
+    if (HostEdCompletion::Registry* registry = services->completionRegistry())
+      registry->removeProvider("tools", nullptr);
+  hostResetCache();
+}
+
+OdString OdTcModule::moduleName() const
+{
+  Dl_info info{};
+  if (dladdr(reinterpret_cast<const void*>(&registerModuleClasses), &info) && info.dli_fname)
+    return OdString(QString::fromLocal8Bit(info.dli_fname));
+  return OdString();
+}
+
+} // namespace tc

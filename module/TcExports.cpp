@@ -1,0 +1,40 @@
+// The exported functions for other modules.
+#include "TcExports.h"
+
+#include "TcModuleState.h"
+
+namespace tc {
+
+OdTcPaletteManager* odtcToolPaletteManager()
+{
+  // The manager joins the module-wide objects with the catalog files.
+  return nullptr;
+}
+
+bool odtcToolPaletteVisible()
+{
+  return paletteVisible;
+}
+
+OdTcCatalogItem* odtcGetSelectedItem()
+{
+  auto* tree = paletteSetView<ITcUiTreeView>(kITcUiTreeView);
+  return tree ? tree->selectedItem() : nullptr;
+}
+
+void odtcInitReactor(OdTcCatalogItem* item)
+{
+  auto* tree = paletteSetView<ITcUiTreeView>(kITcUiTreeView);
+  if (!tree || !item)
+    return;
+  // Items take reactors once the catalog items are part of the module.
+}
+
+void odtcUninitReactor(OdTcCatalogItem* item)
+{
+  auto* tree = paletteSetView<ITcUiTreeView>(kITcUiTreeView);
+  if (!tree || !item)
+    return;
+}
+
+} // namespace tc

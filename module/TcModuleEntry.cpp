@@ -1,0 +1,110 @@
+// The library's entry: what happens while it loads and unloads, and the two
+// functions that the host's module loader calls.
+#include "OdTcModule.h"
+#include "TcCmd.h"
+#include "TcExecuteTool.h"
+#include "TcHost.h"
+#include "TcModuleState.h"
+
+#include <QEvent>
+
+#include <dlfcn.h>
+
+namespace tc {
+
+int wmTcCustomize = 0;
+int wmTcPaletteClosed = 0;
+
+namespace {
+
+// Process attach and detach. Must stay the first static object of this file.
+struct LibraryEntry
+{
+  using RkAfxDllMainFn = int (*)(void* instance, unsigned reason);
+  void* instance = nullptr;
+  RkAfxDllMainFn afxMain = nullptr;
+
+  LibraryEntry()
+  {
+    Dl_info info{};
+    if (dladdr(reinterpret_cast<void*>(&odtcLibraryAnchor), &info) && info.dli_fname)
+      instance = dlopen(info.dli_fname, RTLD_NOW | RTLD_NOLOAD);
+    // The host's translation of this module's resources, when it has one.
+    using InitFn = void (*)(void*);
+    for (const char* lib : {"libhostcore.so", "libhosttranslate.so"}) {
+      if (void* h = dlopen(lib, RTLD_NOW | RTLD_NOLOAD)) {
+        if (auto init = reinterpret_cast<InitFn>(dlsym(h, "_InitResTranslation"))) {
+          init(instance);
+          break;
+        }
+      }
+    }
+    if (instance)
+      afxMain = reinterpret_cast<RkAfxDllMainFn>(dlsym(instance, "__RkAfxDllMain@8"));
+    if (afxMain)
+      afxMain(instance, 1);
+  }
+  ~LibraryEntry()
+  {
+    if (afxMain)
+      afxMain(instance, 0);
+  }
+  static void odtcLibraryAnchor() {}
+} g_libraryEntry;
+
+} // namespace
+
+// The static objects below run in this order while the library loads.
+const OdString kOtherLinetypeMarker("%otherLinetype%");
+const OdString kUserArrowMarker("%userArrow%");
+
+namespace {
+
+// Registers the two commands with the host's factory; without a factory the
+// library loads all the same.
+struct CommandRegistration
+{
+  CommandRegistration()
+  {
+    if (CRkPtr<ICmdFactory> factory = hostCmdFactory())
+      factory->registerCommandClass("ToolPalettes", &TcCmd::create, "HOST", 0, 0, 0);
+    if (CRkPtr<ICmdFactory> factory = hostCmdFactory())
+      factory->registerCommandFunction("HOST", "__executetool", "__executetool", 0, &executeToolCommand, 0, 0);
+  }
+} g_commandRegistration;
+
+struct WindowMessages
+{
+  WindowMessages()
+  {
+    wmTcCustomize = QEvent::registerEventType();
+    wmTcPaletteClosed = QEvent::registerEventType();
+  }
+} g_windowMessages;
+
+} // namespace
+
+} // namespace tc
+
+extern "C" {
+
+// The first call makes the module object with the caller's handle and
+// clears the caller's variable; every call answers the same object.
+OdRxModule* odrxCreateModuleObject(void*& instance)
+{
+  if (!tc::moduleObject) {
+    tc::moduleObject = new OdRxWin32Module<tc::OdTcModule>(instance);
+    instance = nullptr;
+  }
+  return tc::moduleObject;
+}
+
+void odrxGetAPIVersion(int& a, int& b, int& c, int& d)
+{
+  a = 4;
+  b = 3;
+  c = 1;
+  d = 0;
+}
+
+}

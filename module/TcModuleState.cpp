@@ -1,0 +1,24 @@
+// The module-wide state.
+#include "TcModuleState.h"
+
+namespace tc {
+
+ITcUiPaletteSet* paletteSet = nullptr;
+bool paletteVisible = false;
+OdRxModule* moduleObject = nullptr;
+
+namespace {
+TcPaletteSetCreator g_paletteSetCreator = nullptr;
+} // namespace
+
+void setPaletteSetCreator(TcPaletteSetCreator creator)
+{
+  g_paletteSetCreator = creator;
+}
+
+TcPaletteSetCreator paletteSetCreator()
+{
+  return g_paletteSetCreator;
+}
+
+} // namespace tc

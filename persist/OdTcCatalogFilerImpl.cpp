@@ -1,0 +1,33 @@
+// The catalog filer.
+#include "OdTcCatalogFilerImpl.h"
+
+namespace tc {
+
+OdTcFilerPtr OdTcCatalogFilerImpl::createObject()
+{
+  return OdRxObjectImpl<OdTcCatalogFilerImpl, OdTcFiler>::createObject();
+}
+
+bool OdTcCatalogFilerImpl::openCatalog(OdStreamBuf* stream, OdTcPersist* root, bool write)
+{
+  m_writing = write;
+  m_stream = stream;
+  m_root = root;
+  m_isOpen = true;
+  if (write)
+    return openForWriting(stream, root);
+
+  parseStream(stream);
+  m_parentElement = const_cast<TiXmlElement*>(findTopElement("Catalog"));
+  if (!m_parentElement)
+    return false;
+  m_currentElement = m_parentElement->FirstChildElement();
+  return root->read(this);
+}
+
+void OdTcCatalogFilerImpl::attachObject(OdTcPersist* object)
+{
+  object->attachToCatalog(top());
+}
+
+} // namespace tc

@@ -1,0 +1,83 @@
+// OdTcFilerImplBase: the part of the filers that both file kinds share: the
+// document, the element cursor, the stack of objects and the writers.
+#pragma once
+
+#include "OdTcFiler.h"
+#include "OdTcPersist.h"
+
+#include <tinyxml.h>
+
+#include <deque>
+#include <vector>
+
+namespace tc {
+
+// The text a written value takes, with the type code of the host's
+// variants beside it (not written to files).
+struct OdTcFormattedValue
+{
+  OdString text;
+  int typeCode = 0;
+};
+
+class OdTcFilerImplBase : public OdTcFiler
+{
+public:
+  OdTcFilerImplBase();
+
+  bool openCatalog(OdStreamBuf* stream, OdTcPersist* root, bool write) override { return false; }
+  bool openPalette(OdStreamBuf* stream, OdTcPersist* root, bool write) override { return false; }
+  void push(OdTcPersist* object) override;
+  int pop(bool advance) override;
+  bool readNext(OdTcValueMap& values) override;
+  bool readAttributes(OdTcValueMap& values) override;
+  OdTcPersistPtr readObject() override;
+  void writeObject(OdTcPersist* object) override;
+  void writeValues(const OdTcValueMap& values) override {}
+  void writeAttribute(const OdString& name, const OdVariant& value) override;
+  void writeAttributeElement(const OdString& tag, const OdString& attribute, const OdVariant& value) override;
+  void writeAttributesElement(const OdString& tag, const OdTcValueMap& values) override;
+  void writeTextElement(const OdString& tag, const OdVariant& value, bool cdata) override;
+  void flush() override;
+  bool isOpenFlag() const override { return m_isOpen; }
+  OdTcPersist* top() const override;
+  bool next() override;
+  bool atEnd() const override { return m_currentElement == nullptr; }
+
+  // How a value is written: the catalog filer prints 32-bit numbers signed,
+  // the palette filer unsigned except for "mRGB".
+  virtual OdTcFormattedValue formatValue(const OdVariant& value, bool mrgbAttribute) const;
+
+  const TiXmlDocument& document() const { return m_document; }
+
+protected:
+  // The element name used to look up the tag table.
+  virtual OdString tagOf(const TiXmlElement* element) const;
+  virtual bool isSkipped(const OdString& tag) const { return false; }
+  virtual void attachObject(OdTcPersist* object) = 0;
+  // What readNext does with an element without attributes and with empty
+  // text: the catalog filer stops reading the parent's children there.
+  virtual bool emptyElementEndsReading() const = 0;
+
+  // Steps 1 to 3 of opening for reading: the whole stream parsed as UTF-8.
+  void parseStream(OdStreamBuf* stream);
+  // Opening for writing: the root becomes the document's element.
+  bool openForWriting(OdStreamBuf* stream, OdTcPersist* root);
+  const TiXmlElement* findTopElement(const char* name) const;
+  void linkElement(TiXmlElement* element);
+
+  TiXmlDocument m_document;
+  TiXmlElement* m_parentElement = nullptr;
+  TiXmlElement* m_currentElement = nullptr;
+  std::deque<OdTcPersist*> m_objects; // not owned: the objects being read
+  bool m_writing = false;
+  bool m_isOpen = false;
+  OdStreamBufPtr m_stream;
+  OdString m_dataTag;
+  std::vector<OdString> m_skipTags;
+  OdTcPersistPtr m_root;
+};
+
+OdString odtcUtf8(const char* text);
+
+} // namespace tc

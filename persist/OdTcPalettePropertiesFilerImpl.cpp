@@ -1,0 +1,96 @@
+// The palette filer.
+#include "OdTcPalettePropertiesFilerImpl.h"
+
+#include "HostCore.h"
+
+#include <algorithm>
+
+namespace tc {
+
+OdTcFilerPtr OdTcPalettePropertiesFilerImpl::createObject()
+{
+  return OdRxObjectImpl<OdTcPalettePropertiesFilerImpl, OdTcFiler>::createObject();
+}
+
+bool OdTcPalettePropertiesFilerImpl::openPalette(OdStreamBuf* stream, OdTcPersist* root, bool write)
+{
+  m_writing = write;
+  m_stream = stream;
+  m_root = root;
+  m_isOpen = true;
+  if (write)
+    return openForWriting(stream, root);
+
+  parseStream(stream);
+  auto* palette = const_cast<TiXmlElement*>(findTopElement("Palette"));
+  if (!palette || !palette->FirstChildElement()) {
+    hostMessageBox(Supp_Translate("Error while reading tool palette file."), "Verdani", 48);
+    return true;
+  }
+  // First pass: the palette itself; a nested "Palette" is no loader here.
+  m_parentElement = palette;
+  m_currentElement = palette->FirstChildElement();
+  m_skipTags.push_back("Palette");
+  root->read(this);
+
+  // Second pass, for files of other programs: the element after
+  // "PaletteContent" holds tools and images as plain values.
+  const TiXmlElement* content = findTopElement("PaletteContent");
+  if (!content)
+    return true;
+  auto* holder = const_cast<TiXmlElement*>(content->NextSiblingElement());
+  if (!holder || !holder->FirstChildElement())
+    return true;
+  m_parentElement = holder;
+  m_currentElement = holder->FirstChildElement();
+  m_skipTags.push_back("Image");
+  m_skipTags.push_back("Tool");
+  root->read(this);
+  m_skipTags.clear();
+  return true;
+}
+
+void OdTcPalettePropertiesFilerImpl::writeValues(const OdTcValueMap& values)
+{
+  for (const auto& [name, value] : values)
+    writeAttribute(name, value);
+}
+
+OdTcFormattedValue OdTcPalettePropertiesFilerImpl::formatValue(const OdVariant& value, bool mrgbAttribute) const
+{
+  if (value.type() == OdVariant::kInt32 && !mrgbAttribute)
+    return {OdString::formatted("%u", std::uint32_t(value.getInt32())), 3};
+  return OdTcFilerImplBase::formatValue(value, mrgbAttribute);
+}
+
+OdString OdTcPalettePropertiesFilerImpl::tagOf(const TiXmlElement* element) const
+{
+  const OdString name = odtcUtf8(element->Value());
+  if (name != "CreateInfo")
+    return name;
+  const TiXmlNode* parentNode = element->Parent();
+  const OdString parent = parentNode ? odtcUtf8(parentNode->Value()) : OdString();
+  if (parent == "Layer")
+    return "LayerCreateInfo";
+  if (parent == "Color")
+    return "ColorCreateInfo";
+  if (parent == "Textstyle")
+    return "TextStyleCreateInfo";
+  if (parent == "Linetype")
+    return "LineTypeCreateInfo";
+  if (parent == "Dimstyle")
+    return "DimStyleCreateInfo";
+  return name;
+}
+
+bool OdTcPalettePropertiesFilerImpl::isSkipped(const OdString& tag) const
+{
+  return std::find(m_skipTags.begin(), m_skipTags.end(), tag) != m_skipTags.end();
+}
+
+void OdTcPalettePropertiesFilerImpl::attachObject(OdTcPersist* object)
+{
+  object->attachToDatabase(top(), OdString());
+}
+
+} // namespace tc

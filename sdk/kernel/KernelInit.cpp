@@ -1,0 +1,16 @@
+// The kernel's own classes are registered the moment the library loads, so
+// that every module finds the root of the class tree in place.
+#include "OdRxModule.h"
+#include "OdStreamBuf.h"
+
+namespace {
+struct KernelClasses
+{
+  KernelClasses()
+  {
+    OdRxObject::rxInit();
+    OdStreamBuf::rxInit();
+    OdRxModule::rxInit();
+  }
+} g_kernelClasses;
+} // namespace
