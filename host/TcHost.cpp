@@ -56,6 +56,8 @@ CRkPtr<ICmdFactory> hostCmdFactory()
     const OdString file(name());
     library = loadedLibrary(file.toUtf8().c_str());
   }
+  if (!library && symbolOfProgram("GetMainDllNameW"))
+    library = hostMainLibrary(); // the named library may be the program itself
   if (!library)
     library = loadedLibrary("libhostview.so");
   if (!library) {

@@ -78,12 +78,17 @@ public:
   // Takes one named value; true if the name is one of this class's.
   virtual bool setValue(const OdString& name, const OdVariant& value) { return false; }
 
+  // What a clone takes over: the parent link, so the copy answers the same
+  // parent() while that parent does not list it. Classes add their fields.
+  void copyFrom(const OdRxObject* source) override
+  {
+    if (OdTcPersistPtr src = OdTcPersist::cast(source))
+      m_parent = src->parent();
+  }
+
   const OdString& label() const { return m_label; }
 
 protected:
-  // The clone's own part: the parent link. Classes add their fields.
-  void copyPersistFrom(const OdTcPersistImpl& source) { m_parent = source.m_parent; }
-
   OdString m_label;
   OdTcPersist* m_parent = nullptr; // not owned: ownership runs downward
 };

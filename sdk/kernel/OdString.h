@@ -4,6 +4,7 @@
 #include <QString>
 
 #include <cstdint>
+#include <ostream>
 #include <string>
 #include <string_view>
 #include <type_traits>
@@ -168,6 +169,11 @@ OdString& OdString::format(const OdString& fmt, const Args&... args)
 }
 
 size_t qHash(const OdString& s, size_t seed = 0) noexcept;
+
+inline std::ostream& operator<<(std::ostream& os, const OdString& s)
+{
+  return os << s.toUtf8();
+}
 
 namespace std {
 template <>

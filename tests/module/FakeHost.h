@@ -1,0 +1,38 @@
+// A host in the test program: it exports the lookups a module uses to find
+// its host, and records what the module does with it.
+#pragma once
+
+#include "AppInterfaces.h"
+#include "CmdInterfaces.h"
+#include "HostServices.h"
+
+#include <map>
+#include <string>
+#include <vector>
+
+namespace fakehost {
+
+struct Command
+{
+  std::string group;
+  std::string name;
+  CmdCreatorFn creator = nullptr;
+  CmdFunction function = nullptr;
+};
+
+// Everything the fake host has seen, kept in one place for the tests.
+struct State
+{
+  std::vector<Command> commands;
+  std::map<std::string, CRkVariant> startup;      // the "Startup" folder
+  std::map<std::string, const HostEdCompletion::Provider*> providers;
+  std::vector<HostEditorReactor*> reactors;
+  std::vector<IPropReactor*> propReactors;
+  std::string printed;
+};
+
+State& state();
+// Tells every property reactor that an option changed.
+void changeOption(const char* name);
+
+} // namespace fakehost
