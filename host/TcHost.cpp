@@ -113,6 +113,28 @@ HostCommandOutput* hostCommandOutput()
   return services->commandOutput();
 }
 
+bool readStdDir(const char* key, OdString& out)
+{
+  out = OdString();
+  CRkPtr<IApp> app = hostApp();
+  auto dirs = CRkPtr<IStdDirs>::query(app.get());
+  if (!dirs)
+    return false;
+  CRkVariant value;
+  if (!dirs->getValue(key, value))
+    return false;
+  if (value.type() == CRkVariant::kStringA)
+    out = OdString(value.narrow());
+  else if (value.type() == CRkVariant::kStringW)
+    out = value.wide();
+  return !out.isEmpty();
+}
+
+OdString userProfileFolder()
+{
+  return OdString(qEnvironmentVariable("HOME"));
+}
+
 void hostResetCache()
 {
   if (IApp* app = std::exchange(g_app, nullptr))

@@ -36,6 +36,15 @@ void hostPrint(const OdString& format, const Args&... args)
     out->print(format, args...);
 }
 
+// A text value of the host's standard folders (IStdDirs): "ToolPaletteDir",
+// "CommonDirs", "Shx". Narrow and wide texts count; anything else, a missing
+// value or a missing interface give false and an empty text.
+bool readStdDir(const char* key, OdString& out);
+
+// The user's home folder, where Windows has the user profile; empty when
+// it cannot be had.
+OdString userProfileFolder();
+
 // Forgets the cached application object (for a host that restarts).
 void hostResetCache();
 

@@ -19,6 +19,7 @@ void OdTcModule::deleteModule()
 void OdTcModule::initApp()
 {
   registerModuleClasses();
+  valueStorage = OdTcValueStorageImpl::createNew();
   paletteVisible = false;
   if (HostServices* services = hostServices())
     if (HostEdCompletion::Registry* registry = services->completionRegistry())
@@ -28,6 +29,7 @@ void OdTcModule::initApp()
 void OdTcModule::uninitApp()
 {
   unregisterModuleClasses();
+  valueStorage = nullptr;
   if (HostServices* services = hostServices())
     if (HostEdCompletion::Registry* registry = services->completionRegistry())
       registry->removeProvider("tools", nullptr);

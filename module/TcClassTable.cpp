@@ -2,7 +2,12 @@
 // it comes into the module.
 #include "TcClassTable.h"
 
-#include "OdTcPersist.h"
+#include "OdTcCatalogItem.h"
+#include "OdTcImageList.h"
+#include "OdTcList.h"
+#include "OdTcOrderLists.h"
+#include "OdTcPaletteSoftRef.h"
+#include "OdTcProperties.h"
 
 namespace tc {
 
@@ -18,6 +23,20 @@ const std::vector<TcClassRow>& classRegistrationOrder()
 {
   static const std::vector<TcClassRow> rows = {
       row<OdTcPersist>("OdTcPersist"),
+      row<OdTcCatalogItem>("OdTcCatalogItem"),
+      row<OdTcImageList>("OdTcImageList"),
+      row<OdTcImage>("OdTcImage"),
+      row<OdTcProperties>("OdTcProperties"),
+      row<OdTcPropertyBasicInfo>("OdTcPropertyBasicInfo"),
+      row<OdTcToolOrderList>("OdTcToolOrderList"),
+      row<OdTcCatalogItemOrderList>("OdTcCatalogItemOrderList"),
+      row<OdTcList>("OdTcList"),
+      row<OdTcToolList>("OdTcToolList"),
+      row<OdTcPaletteLoaderList>("OdTcPaletteLoaderList"),
+      row<OdTcGroupContentList>("OdTcGroupContentList"),
+      row<OdTcPaletteSoftRef>("OdTcPaletteSoftRef"),
+      row<OdTcGroupList>("OdTcGroupList"),
+      row<OdTcCatalogItemList>("OdTcCatalogItemList"),
   };
   return rows;
 }
@@ -26,6 +45,20 @@ const std::vector<TcClassRow>& classDeletionOrder()
 {
   static const std::vector<TcClassRow> rows = {
       row<OdTcPersist>("OdTcPersist"),
+      row<OdTcImageList>("OdTcImageList"),
+      row<OdTcImage>("OdTcImage"),
+      row<OdTcProperties>("OdTcProperties"),
+      row<OdTcPropertyBasicInfo>("OdTcPropertyBasicInfo"),
+      row<OdTcToolOrderList>("OdTcToolOrderList"),
+      row<OdTcCatalogItemOrderList>("OdTcCatalogItemOrderList"),
+      row<OdTcCatalogItem>("OdTcCatalogItem"),
+      row<OdTcList>("OdTcList"),
+      row<OdTcToolList>("OdTcToolList"),
+      row<OdTcPaletteLoaderList>("OdTcPaletteLoaderList"),
+      row<OdTcGroupContentList>("OdTcGroupContentList"),
+      row<OdTcPaletteSoftRef>("OdTcPaletteSoftRef"),
+      row<OdTcGroupList>("OdTcGroupList"),
+      row<OdTcCatalogItemList>("OdTcCatalogItemList"),
   };
   return rows;
 }

@@ -38,3 +38,10 @@ void odtcUninitReactor(OdTcCatalogItem* item)
 }
 
 } // namespace tc
+
+const char* odtcCatalogPathsUtf8()
+{
+  static std::string text;
+  text = tc::valueStorage ? tc::valueStorage->catalogPaths().toUtf8() : std::string();
+  return text.c_str();
+}

@@ -16,3 +16,14 @@ void odtcInitReactor(OdTcCatalogItem* item);
 void odtcUninitReactor(OdTcCatalogItem* item);
 
 } // namespace tc
+
+extern "C" {
+// For the reference host's listing command: the catalog folders as the
+// module finds them, ";"-separated, in UTF-8. Empty before initApp. The
+// text lives until the next call.
+const char* odtcCatalogPathsUtf8();
+}
+
+namespace tc {
+
+} // namespace tc

@@ -3,6 +3,7 @@
 
 namespace tc {
 
+OdTcValueStorageImplPtr valueStorage;
 ITcUiPaletteSet* paletteSet = nullptr;
 bool paletteVisible = false;
 OdRxModule* moduleObject = nullptr;

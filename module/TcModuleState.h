@@ -2,13 +2,17 @@
 // command "ToolPalettes".
 #pragma once
 
-#include "OdString.h"
+#include "OdTcValueStorageImpl.h"
 #include "TcUiInterfaces.h"
 
 class OdRxModule;
 class QWidget;
 
 namespace tc {
+
+// The module-wide objects, made by initApp in this order and released by
+// uninitApp in the same order. Those of later parts join them.
+extern OdTcValueStorageImplPtr valueStorage;
 
 // The palette set window; null until first shown, and never freed here: the
 // docking frame owns it.

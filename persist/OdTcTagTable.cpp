@@ -2,11 +2,39 @@
 #include "OdTcFiler.h"
 #include "OdTcTagTable.h"
 
+#include "OdTcImageList.h"
+#include "OdTcLists.h"
+#include "OdTcOrderLists.h"
+#include "OdTcProperties.h"
+
 namespace tc {
+
+namespace {
+template <class Impl, class I>
+OdTcPersistPtr make()
+{
+  return OdTcPersistPtr(OdRxObjectImpl<Impl, I>::createObject());
+}
+} // namespace
 
 OdTcTagTable& OdTcTagTable::instance()
 {
-  static OdTcTagTable table;
+  // Entries in the order of the table, so that a later one for the same
+  // name wins.
+  static OdTcTagTable table = [] {
+    OdTcTagTable t;
+    t.registerTag("Properties", &make<OdTcPropertiesImpl, OdTcProperties>);
+    t.registerTag("Images", &make<OdTcImageListImpl, OdTcImageList>);
+    t.registerTag("Image", &make<OdTcImageImpl, OdTcImage>);
+    t.registerTag("Tools", &make<OdTcToolListImpl, OdTcToolList>);
+    t.registerTag("BasicPropInfo", &make<OdTcPropertyBasicInfoImpl, OdTcPropertyBasicInfo>);
+    t.registerTag("ToolOrder", &make<OdTcToolOrderListImpl, OdTcToolOrderList>);
+    t.registerTag("CatalogItemOrder", &make<OdTcCatalogItemOrderListImpl, OdTcCatalogItemOrderList>);
+    t.registerTag("Palettes", &make<OdTcPaletteLoaderListImpl, OdTcPaletteLoaderList>);
+    t.registerTag("Contents", &make<OdTcGroupContentListImpl, OdTcGroupContentList>);
+    t.registerTag("Groups", &make<OdTcGroupListImpl, OdTcGroupList>);
+    return t;
+  }();
   return table;
 }
 

@@ -1,0 +1,116 @@
+// The image list of an item.
+#include "OdTcImageList.h"
+
+#include "OdWcstol.h"
+
+namespace tc {
+
+ODRX_DEFINE_MEMBERS(OdTcImageList, OdTcPersist, ODRX_CREATE_IMPL(OdTcImageListImpl, OdTcImageList))
+
+OdTcImageListPtr OdTcImageListImpl::createNew()
+{
+  return OdRxObjectImpl<OdTcImageListImpl, OdTcImageList>::createObject();
+}
+
+void OdTcImageListImpl::writeBody(OdTcFiler* filer)
+{
+  filer->writeAttribute("option", OdVariant(std::int32_t(m_option)));
+  for (const OdTcImagePtr& image : m_images)
+    filer->writeObject(image);
+}
+
+bool OdTcImageListImpl::setValue(const OdString& name, const OdVariant& value)
+{
+  if (name == "option") {
+    m_option = std::uint32_t(odWcstol(value.getString()));
+    return true;
+  }
+  if (name == "Image") {
+    m_images.append(OdTcImagePtr(value.getRxObjectPtr()));
+    return true;
+  }
+  return false;
+}
+
+void OdTcImageListImpl::copyFrom(const OdRxObject* source)
+{
+  OdTcPersistImpl<OdTcImageList>::copyFrom(source);
+  if (auto* src = dynamic_cast<const OdTcImageListImpl*>(source)) {
+    m_option = src->m_option;
+    m_images.clear();
+    for (const OdTcImagePtr& image : src->m_images) {
+      OdTcImagePtr copy(image->clone());
+      copy->setParent(this);
+      m_images.append(copy);
+    }
+  }
+}
+
+void OdTcImageListImpl::addImage(OdTcImage* image)
+{
+  if (!image)
+    return;
+  image->setParent(this);
+  m_images.append(OdTcImagePtr(image));
+}
+
+void OdTcImageListImpl::removeAll(bool)
+{
+  // Picture files next to the catalog are deleted with the image files of
+  // the images module; the list itself only forgets them.
+  m_images.clear();
+}
+
+OdTcEnumPtr<OdTcImage> OdTcImageListImpl::newEnumerator() const
+{
+  // A snapshot: the list may change while the caller walks it.
+  class SnapshotEnum : public OdTcEnum<OdTcImage>
+  {
+  public:
+    OdArray<OdTcImagePtr> m_items;
+    unsigned m_position = 0;
+    OdTcImage* next() override { return m_position < m_items.size() ? m_items[m_position++].get() : nullptr; }
+    void reset() override { m_position = 0; }
+  };
+  auto e = OdSmartPtr<SnapshotEnum>(new OdRxObjectImpl<SnapshotEnum>, kOdRxObjAttach);
+  e->m_items = m_images;
+  return OdTcEnumPtr<OdTcImage>(e.get());
+}
+
+OdTcImage* OdTcImageListImpl::image(int sizeClass) const
+{
+  for (const OdTcImagePtr& image : m_images)
+    if (image->getSizeClass() == sizeClass)
+      return image.get();
+  return nullptr;
+}
+
+void OdTcImageListImpl::normalize()
+{
+  bool hasSmall = false;
+  bool hasBig = false;
+  for (const OdTcImagePtr& image : m_images) {
+    hasSmall = hasSmall || image->getSizeClass() == 1;
+    hasBig = hasBig || image->getSizeClass() == 3 || image->getSizeClass() == 4;
+  }
+  if (!hasBig) {
+    // A resource name of the long form "...RCDATA..._name" gives the picture.
+    OdString name;
+    for (const OdTcImagePtr& image : m_images) {
+      const OdString resource = image->resource();
+      const int underscore = resource.reverseFind(u'_');
+      if (resource.find("RCDATA") >= 0 && underscore >= 0) {
+        name = resource.mid(underscore + 1);
+        name.makeLower();
+        break;
+      }
+    }
+    addImage(OdTcImageImpl::createNew(3, kProgramBtnRes, name));
+    addImage(OdTcImageImpl::createNew(4, kProgramBtnRes, name));
+  }
+  if (!hasSmall)
+    if (OdTcImage* big = image(3))
+      addImage(big->cloneAtSize(1));
+}
+
+} // namespace tc

@@ -1,0 +1,163 @@
+// The display record of catalog items, and the record of a property value.
+#include "OdTcProperties.h"
+
+#include "OdTcImageList.h"
+
+#include "OdTimeStamp.h"
+#include "OdWcstol.h"
+
+#include <ctime>
+
+namespace tc {
+
+ODRX_DEFINE_MEMBERS(OdTcProperties, OdTcPersist, ODRX_CREATE_IMPL(OdTcPropertiesImpl, OdTcProperties))
+ODRX_DEFINE_MEMBERS(OdTcPropertyBasicInfo, OdTcPersist,
+                    ODRX_CREATE_IMPL(OdTcPropertyBasicInfoImpl, OdTcPropertyBasicInfo))
+
+OdString OdTcPropertiesImpl::now()
+{
+  OdTimeStamp stamp;
+  stamp.setPackedValue(std::time(nullptr));
+  OdTimeStamp universal;
+  stamp.getUniversalTime(universal);
+  return universal.ctime();
+}
+
+OdTcPropertiesImpl::OdTcPropertiesImpl()
+    : m_created(now()), m_changed(m_created), m_images(OdTcImageListImpl::createNew())
+{
+  m_images->setParent(this);
+}
+
+OdTcPropertiesPtr OdTcPropertiesImpl::createNew()
+{
+  return OdRxObjectImpl<OdTcPropertiesImpl, OdTcProperties>::createObject();
+}
+
+OdString OdTcPropertiesImpl::displayName() const
+{
+  if (m_itemName.isEmpty() && !m_resource.isEmpty())
+    return m_resource;
+  return m_itemName;
+}
+
+void OdTcPropertiesImpl::setItemName(const OdString& name)
+{
+  m_itemName = name;
+  refreshChanged();
+}
+
+void OdTcPropertiesImpl::setDescription(const OdString& description)
+{
+  m_description = description;
+  refreshChanged();
+}
+
+void OdTcPropertiesImpl::setDates(const OdString& created, const OdString& changed)
+{
+  m_created = created;
+  m_changed = changed;
+}
+
+void OdTcPropertiesImpl::setResource(const OdString& resource, const OdString& src)
+{
+  m_resource = resource;
+  m_src = src;
+}
+
+void OdTcPropertiesImpl::refreshChanged()
+{
+  m_changed = now();
+}
+
+OdTcImageList* OdTcPropertiesImpl::images()
+{
+  return m_images;
+}
+
+void OdTcPropertiesImpl::setImages(OdTcImageList* images)
+{
+  m_images = images;
+  if (m_images)
+    m_images->setParent(this);
+}
+
+bool OdTcPropertiesImpl::setValue(const OdString& name, const OdVariant& value)
+{
+  if (name == "ItemName") {
+    setItemName(value.getString());
+  } else if (name == "Description") {
+    setDescription(value.getString());
+  } else if (name == "resource") {
+    m_resource = value.getString();
+  } else if (name == "src") {
+    m_src = value.getString();
+  } else if (name == "createdUniversalDateTime") {
+    m_created = value.getString();
+  } else if (name == "modifiedUniversalDateTime") {
+    m_changed = value.getString();
+  } else if (name == "Images") {
+    m_images = OdTcImageListPtr(value.getRxObjectPtr());
+  } else {
+    return false;
+  }
+  return true;
+}
+
+void OdTcPropertiesImpl::write(OdTcFiler* filer)
+{
+  writeBody(filer);
+  writeTail(filer);
+}
+
+void OdTcPropertiesImpl::writeBody(OdTcFiler* filer)
+{
+  if (m_resource.isEmpty() && m_src.isEmpty()) {
+    filer->writeTextElement("ItemName", OdVariant(m_itemName), false);
+  } else {
+    // A resource name stands for the name: the typed name is not written.
+    filer->writeAttributesElement("ItemName", OdTcValueMap{{"resource", OdVariant(m_resource)},
+                                                           {"src", OdVariant(m_src)}});
+  }
+  if (!m_description.isEmpty())
+    filer->writeTextElement("Description", OdVariant(m_description), false);
+  if (m_created.isEmpty() && m_changed.isEmpty())
+    return;
+  filer->writeAttributesElement("Time", OdTcValueMap{{"createdUniversalDateTime", OdVariant(m_created)},
+                                                     {"modifiedUniversalDateTime", OdVariant(m_changed)}});
+}
+
+void OdTcPropertiesImpl::writeTail(OdTcFiler* filer)
+{
+  filer->writeObject(m_images);
+}
+
+void OdTcPropertiesImpl::copyFrom(const OdRxObject* source)
+{
+  OdTcPersistImpl<OdTcProperties>::copyFrom(source);
+  if (auto* src = dynamic_cast<const OdTcPropertiesImpl*>(source)) {
+    m_itemName = src->m_itemName;
+    m_description = src->m_description;
+    m_created = src->m_created;
+    m_changed = src->m_changed;
+    m_resource = src->m_resource;
+    m_src = src->m_src;
+    m_images = OdTcImageListPtr(src->m_images->clone());
+    m_images->setParent(this);
+  }
+}
+
+bool OdTcPropertyBasicInfoImpl::setValue(const OdString& name, const OdVariant& value)
+{
+  if (name == "unspecified") {
+    const OdString text = value.getString();
+    m_unspecified = text.iCompare("TRUE") == 0 || text.iCompare("1") == 0;
+  } else if (name == "valueType") {
+    m_valueType = odWcstol(value.getString());
+  } else if (name == "value") {
+    m_value = value;
+  }
+  return true;
+}
+
+} // namespace tc
