@@ -127,7 +127,7 @@ public:
   std::vector<std::string> folderNames() const override { return {"Startup"}; }
 };
 
-class App : public CRkUnknownImpl<IApp>, public IProfile, public IAppProp
+class App : public CRkUnknownImpl<IApp>, public IProfile, public IAppProp, public IStdDirs, public IAppInterior
 {
 public:
   long addRef() override { return CRkUnknownImpl<IApp>::addRef(); }
@@ -138,6 +138,10 @@ public:
       *out = static_cast<IProfile*>(this);
     } else if (rkSameIID(iid, IAppProp::kIID)) {
       *out = static_cast<IAppProp*>(this);
+    } else if (rkSameIID(iid, IStdDirs::kIID)) {
+      *out = static_cast<IStdDirs*>(this);
+    } else if (rkSameIID(iid, IAppInterior::kIID)) {
+      *out = static_cast<IAppInterior*>(this);
     } else {
       return CRkUnknownImpl<IApp>::queryInterface(iid, out);
     }
@@ -150,6 +154,15 @@ public:
     return true;
   }
   bool getParam(const char*, const char*, bool, IConfigParam**) override { return false; }
+  bool getValue(const char* key, CRkVariant& out) override
+  {
+    auto it = state().stdDirs.find(key);
+    if (it == state().stdDirs.end())
+      return false;
+    out = it->second;
+    return true;
+  }
+  CXStringW userDataFolder() override { return state().userDataFolder; }
   bool addPropReactor(IPropReactor* r) override
   {
     r->addRef();

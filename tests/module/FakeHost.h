@@ -29,6 +29,8 @@ struct State
   std::vector<HostEditorReactor*> reactors;
   std::vector<IPropReactor*> propReactors;
   std::string printed;
+  std::map<std::string, CRkVariant> stdDirs; // "ToolPaletteDir", "CommonDirs", "Shx"
+  OdString userDataFolder;
 };
 
 State& state();
