@@ -1,5 +1,8 @@
-// Class machinery of OdTcPersist and the container registration hooks.
+// Class machinery of OdTcPersist, and the registration of objects with the
+// container they are read into.
+#include "OdTcCatalog.h"
 #include "OdTcContainerHooks.h"
+#include "OdTcDatabase.h"
 #include "OdTcPersist.h"
 
 #include "OdRxClass.h"
@@ -8,27 +11,14 @@ namespace tc {
 
 ODRX_NO_CONS_DEFINE_MEMBERS(OdTcPersist, OdRxObject)
 
-namespace {
-OdTcDatabaseRegistrar g_databaseRegistrar = nullptr;
-OdTcCatalogRegistrar g_catalogRegistrar = nullptr;
-} // namespace
-
-void odtcSetContainerRegistrars(OdTcDatabaseRegistrar database, OdTcCatalogRegistrar catalog)
-{
-  g_databaseRegistrar = database;
-  g_catalogRegistrar = catalog;
-}
-
 void odtcRegisterWithDatabase(OdTcDatabase* database, OdTcPersist* object)
 {
-  if (g_databaseRegistrar)
-    g_databaseRegistrar(database, object);
+  database->addMember(object);
 }
 
 void odtcRegisterWithCatalog(OdTcCatalog* catalog, OdTcPersist* object)
 {
-  if (g_catalogRegistrar)
-    g_catalogRegistrar(catalog, object);
+  catalog->addMember(object);
 }
 
 } // namespace tc

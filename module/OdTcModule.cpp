@@ -1,6 +1,8 @@
 // Start and stop of the module.
 #include "OdTcModule.h"
 
+#include "OdTcPaletteManager.h"
+
 #include "TcClassTable.h"
 #include "TcHost.h"
 #include "TcModuleState.h"
@@ -20,6 +22,8 @@ void OdTcModule::initApp()
 {
   registerModuleClasses();
   valueStorage = OdTcValueStorageImpl::createNew();
+  paletteManager = OdTcPaletteManagerImpl::createNew();
+  paletteManager->loadCatalogs();
   paletteVisible = false;
   if (HostServices* services = hostServices())
     if (HostEdCompletion::Registry* registry = services->completionRegistry())
@@ -30,6 +34,7 @@ void OdTcModule::uninitApp()
 {
   unregisterModuleClasses();
   valueStorage = nullptr;
+  paletteManager = nullptr;
   if (HostServices* services = hostServices())
     if (HostEdCompletion::Registry* registry = services->completionRegistry())
       registry->removeProvider("tools", nullptr);

@@ -2,7 +2,9 @@
 // it comes into the module.
 #include "TcClassTable.h"
 
+#include "OdTcCatalog.h"
 #include "OdTcCatalogItem.h"
+#include "OdTcPaletteManager.h"
 #include "OdTcImageList.h"
 #include "OdTcList.h"
 #include "OdTcOrderLists.h"
@@ -24,14 +26,22 @@ const std::vector<TcClassRow>& classRegistrationOrder()
   static const std::vector<TcClassRow> rows = {
       row<OdTcPersist>("OdTcPersist"),
       row<OdTcCatalogItem>("OdTcCatalogItem"),
+      row<OdTcDatabase>("OdTcDatabase"),
+      row<OdTcToolPalette>("OdTcToolPalette"),
+      row<OdTcPaletteManager>("OdTcPaletteManager"),
+      row<OdTcPaletteUiProperties>("OdTcPaletteUiProperties"),
       row<OdTcImageList>("OdTcImageList"),
       row<OdTcImage>("OdTcImage"),
       row<OdTcProperties>("OdTcProperties"),
       row<OdTcPropertyBasicInfo>("OdTcPropertyBasicInfo"),
       row<OdTcToolOrderList>("OdTcToolOrderList"),
       row<OdTcCatalogItemOrderList>("OdTcCatalogItemOrderList"),
+      row<OdTcCatalogView>("OdTcCatalogView"),
       row<OdTcList>("OdTcList"),
       row<OdTcToolList>("OdTcToolList"),
+      row<OdTcCatalog>("OdTcCatalog"),
+      row<OdTcGroup>("OdTcGroup"),
+      row<OdTcPaletteLoader>("OdTcPaletteLoader"),
       row<OdTcPaletteLoaderList>("OdTcPaletteLoaderList"),
       row<OdTcGroupContentList>("OdTcGroupContentList"),
       row<OdTcPaletteSoftRef>("OdTcPaletteSoftRef"),
@@ -44,16 +54,24 @@ const std::vector<TcClassRow>& classRegistrationOrder()
 const std::vector<TcClassRow>& classDeletionOrder()
 {
   static const std::vector<TcClassRow> rows = {
+      row<OdTcDatabase>("OdTcDatabase"),
       row<OdTcPersist>("OdTcPersist"),
+      row<OdTcToolPalette>("OdTcToolPalette"),
+      row<OdTcPaletteManager>("OdTcPaletteManager"),
+      row<OdTcPaletteUiProperties>("OdTcPaletteUiProperties"),
       row<OdTcImageList>("OdTcImageList"),
       row<OdTcImage>("OdTcImage"),
       row<OdTcProperties>("OdTcProperties"),
       row<OdTcPropertyBasicInfo>("OdTcPropertyBasicInfo"),
       row<OdTcToolOrderList>("OdTcToolOrderList"),
       row<OdTcCatalogItemOrderList>("OdTcCatalogItemOrderList"),
+      row<OdTcCatalogView>("OdTcCatalogView"),
       row<OdTcCatalogItem>("OdTcCatalogItem"),
+      row<OdTcCatalog>("OdTcCatalog"),
+      row<OdTcGroup>("OdTcGroup"),
       row<OdTcList>("OdTcList"),
       row<OdTcToolList>("OdTcToolList"),
+      row<OdTcPaletteLoader>("OdTcPaletteLoader"),
       row<OdTcPaletteLoaderList>("OdTcPaletteLoaderList"),
       row<OdTcGroupContentList>("OdTcGroupContentList"),
       row<OdTcPaletteSoftRef>("OdTcPaletteSoftRef"),

@@ -3,12 +3,13 @@
 
 #include "TcModuleState.h"
 
+#include "OdTcPaletteManager.h"
+
 namespace tc {
 
 OdTcPaletteManager* odtcToolPaletteManager()
 {
-  // The manager joins the module-wide objects with the catalog files.
-  return nullptr;
+  return paletteManager.get();
 }
 
 bool odtcToolPaletteVisible()

@@ -1,9 +1,12 @@
 // The module-wide state.
 #include "TcModuleState.h"
 
+#include "OdTcPaletteManager.h"
+
 namespace tc {
 
 OdTcValueStorageImplPtr valueStorage;
+OdTcPaletteManagerPtr paletteManager;
 ITcUiPaletteSet* paletteSet = nullptr;
 bool paletteVisible = false;
 OdRxModule* moduleObject = nullptr;

@@ -13,6 +13,7 @@ namespace tc {
 // The module-wide objects, made by initApp in this order and released by
 // uninitApp in the same order. Those of later parts join them.
 extern OdTcValueStorageImplPtr valueStorage;
+extern OdSmartPtr<class OdTcPaletteManager> paletteManager;
 
 // The palette set window; null until first shown, and never freed here: the
 // docking frame owns it.

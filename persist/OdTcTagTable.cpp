@@ -2,6 +2,7 @@
 #include "OdTcFiler.h"
 #include "OdTcTagTable.h"
 
+#include "OdTcCatalog.h"
 #include "OdTcImageList.h"
 #include "OdTcLists.h"
 #include "OdTcOrderLists.h"
@@ -30,8 +31,14 @@ OdTcTagTable& OdTcTagTable::instance()
     t.registerTag("BasicPropInfo", &make<OdTcPropertyBasicInfoImpl, OdTcPropertyBasicInfo>);
     t.registerTag("ToolOrder", &make<OdTcToolOrderListImpl, OdTcToolOrderList>);
     t.registerTag("CatalogItemOrder", &make<OdTcCatalogItemOrderListImpl, OdTcCatalogItemOrderList>);
+    t.registerTag("PaletteUI", &make<OdTcPaletteUiImpl, OdTcPaletteUiImpl>);
+    t.registerTag("CAcTcUiToolPalette", &make<OdTcPaletteUiPropertiesImpl, OdTcPaletteUiProperties>);
+    t.registerTag("CatalogView", &make<OdTcCatalogViewImpl, OdTcCatalogView>);
+    t.registerTag("Palette", &make<OdTcPaletteLoaderImpl, OdTcPaletteLoader>);
     t.registerTag("Palettes", &make<OdTcPaletteLoaderListImpl, OdTcPaletteLoaderList>);
     t.registerTag("Contents", &make<OdTcGroupContentListImpl, OdTcGroupContentList>);
+    t.registerTag("ToolPaletteGroup", &make<OdTcGroupImpl, OdTcGroup>);
+    t.registerTag("ToolPalette", &make<OdTcPaletteSoftRefImpl, OdTcPaletteSoftRef>);
     t.registerTag("Groups", &make<OdTcGroupListImpl, OdTcGroupList>);
     return t;
   }();

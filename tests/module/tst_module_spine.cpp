@@ -130,8 +130,10 @@ TEST_F(ModuleLife, exportsBeforeAnyWindow_answerNothing)
   EXPECT_EQ(odtcGetSelectedItem(), nullptr);
   odtcInitReactor(nullptr);
   odtcUninitReactor(nullptr);
-  EXPECT_EQ(odtcToolPaletteManager(), nullptr);
+  EXPECT_NE(odtcToolPaletteManager(), nullptr);
   EXPECT_FALSE(odtcToolPaletteVisible());
+  m_module->uninitApp();
+  EXPECT_EQ(odtcToolPaletteManager(), nullptr);
 }
 
 TEST(TcCmdState, plainBeforeAnyRun_runWithoutWindowWritesStartupEntry)

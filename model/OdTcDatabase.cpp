@@ -1,0 +1,137 @@
+// The palette database and its file.
+#include "OdTcDatabase.h"
+
+#include "OdTcPalettePropertiesFilerImpl.h"
+#include "TcSafeFile.h"
+
+#include "OdRxSystemServices.h"
+
+namespace tc {
+
+ODRX_DEFINE_MEMBERS(OdTcDatabase, OdTcCatalogItem, ODRX_CREATE_IMPL(OdTcDatabaseImpl, OdTcDatabase))
+
+OdTcDatabasePtr OdTcDatabaseImpl::createNew()
+{
+  return OdRxObjectImpl<OdTcDatabaseImpl, OdTcDatabase>::createObject();
+}
+
+OdTcDatabaseImpl::OdTcDatabaseImpl()
+    : m_tools(OdRxObjectImpl<OdTcToolListImpl, OdTcToolList>::createObject()), m_paletteUi(OdTcPaletteUiImpl::createNew())
+{
+  m_tools->setParent(this);
+  m_paletteUi->setParent(this);
+}
+
+bool OdTcDatabaseImpl::setValue(const OdString& name, const OdVariant& value)
+{
+  if (OdTcCatalogItemImplBase<OdTcDatabase>::setValue(name, value))
+    return true;
+  if (name == "FileRevision") {
+    m_fileRevision = value.getString();
+  } else if (name == "PaletteStyle") {
+    m_paletteStyle = odWcstol(value.getString());
+  } else if (name == "Tools") {
+    m_tools = OdSmartPtr<OdTcToolList>(value.getRxObjectPtr());
+  } else if (name == "PaletteUI") {
+    // The record has no run-time class of its own: it is told by its type.
+    OdRxObjectPtr object = value.getRxObjectPtr();
+    auto* ui = dynamic_cast<OdTcPaletteUiImpl*>(object.get());
+    if (!ui)
+      throw OdError_NotThatKindOfClass();
+    m_paletteUi = ui;
+  } else {
+    return false;
+  }
+  return true;
+}
+
+void OdTcDatabaseImpl::writeBody(OdTcFiler* filer)
+{
+  OdTcCatalogItemImplBase<OdTcDatabase>::writeBody(filer);
+  filer->writeAttribute("FileRevision", OdVariant(m_fileRevision));
+  filer->writeObject(m_tools);
+  filer->writeObject(m_paletteUi);
+}
+
+void OdTcDatabaseImpl::copyFrom(const OdRxObject* source)
+{
+  OdTcPersistImpl<OdTcDatabase>::copyFrom(source);
+  auto* src = dynamic_cast<const OdTcDatabaseImpl*>(source);
+  if (!src)
+    return;
+  copyItemFrom(*src);
+  m_path = src->m_path;
+  m_fileRevision = src->m_fileRevision;
+  m_paletteStyle = src->m_paletteStyle;
+  m_tools = OdRxObjectImpl<OdTcToolListImpl, OdTcToolList>::createObject();
+  m_tools->setParent(this);
+  auto tools = const_cast<OdTcToolList*>(src->m_tools.get())->enumerate();
+  while (OdTcCatalogItem* tool = tools->next())
+    m_tools->add(OdTcCatalogItemPtr(tool->clone()));
+  m_paletteUi = OdTcPaletteUiImpl::createNew();
+  m_paletteUi->copyFrom(src->m_paletteUi);
+  m_paletteUi->setParent(this);
+}
+
+bool OdTcDatabaseImpl::isModified() const
+{
+  auto tools = const_cast<OdTcToolList*>(m_tools.get())->enumerate();
+  while (OdTcCatalogItem* tool = tools->next())
+    if (tool->isModified())
+      return true;
+  return m_modified;
+}
+
+bool OdTcDatabaseImpl::addChild(OdTcCatalogItem* tool)
+{
+  if (!tool)
+    return false;
+  m_tools->add(tool);
+  fireItemAdded(tool);
+  return true;
+}
+
+bool OdTcDatabaseImpl::removeChild(const OdString& id)
+{
+  if (!m_tools->remove(id))
+    return false;
+  m_paletteUi->toolOrder().remove(id);
+  setModified();
+  return true;
+}
+
+void OdTcDatabaseImpl::addMember(OdTcPersist* member)
+{
+  if (member && member != this)
+    m_members.append(OdTcPersistPtr(member));
+}
+
+bool OdTcDatabaseImpl::load(const OdString& path)
+{
+  try {
+    OdTcFilerPtr filer = OdTcPalettePropertiesFilerImpl::createObject();
+    OdStreamBufPtr stream =
+        odrxSystemServices()->createFile(path, Oda::kFileRead, Oda::kShareDenyNo, Oda::kOpenExisting);
+    return filer->openPalette(stream, this, false);
+  } catch (const OdError&) {
+    return false;
+  }
+}
+
+bool OdTcDatabaseImpl::save(const OdString& path)
+{
+  m_path = path;
+  try {
+    TcSafeFile file(path);
+    OdTcFilerPtr filer = OdTcPalettePropertiesFilerImpl::createObject();
+    if (!filer->openPalette(file.stream(), this, true))
+      return false;
+    filer->flush();
+    filer = nullptr;
+    return file.commit();
+  } catch (const OdError&) {
+    return false;
+  }
+}
+
+} // namespace tc

@@ -1,0 +1,105 @@
+// Groups, the references they hold to palettes, and the stubs that stand
+// for palette files inside a catalog.
+#pragma once
+
+#include "OdTcCatalogItemImplBase.h"
+#include "OdTcLists.h"
+#include "OdTcPaletteSoftRef.h"
+
+namespace tc {
+
+class OdTcToolPalette;
+
+class OdTcGroup : public OdTcCatalogItem
+{
+  ODRX_DECLARE_MEMBERS(OdTcGroup);
+
+public:
+  virtual std::int32_t activePaletteIndex() const = 0;
+  virtual void setActivePaletteIndex(std::int32_t index) = 0;
+  virtual OdTcGroupContentList* contents() = 0;
+};
+using OdTcGroupPtr = OdSmartPtr<OdTcGroup>;
+
+class OdTcGroupImpl : public OdTcCatalogItemImplBase<OdTcGroup>
+{
+public:
+  static OdTcGroupPtr createNew();
+  OdTcGroupImpl();
+
+  OdString tagName() const override { return "ToolPaletteGroup"; }
+  bool setValue(const OdString& name, const OdVariant& value) override;
+  void writeBody(OdTcFiler* filer) override;
+  bool hasChildren() const override { return m_contents->hasChildren(); }
+
+  // A palette joins as a reference, without a word to the reactors; any
+  // other item is added as it is, and announced.
+  bool addChild(OdTcCatalogItem* item) override;
+  bool removeChild(const OdString& id) override;
+  bool hasChild(const OdString& id) const override { return m_contents->contains(id); }
+  OdTcEnumPtr<OdTcCatalogItem> children() override { return m_contents->enumerate(); }
+
+  std::int32_t activePaletteIndex() const override { return m_activePaletteIndex; }
+  void setActivePaletteIndex(std::int32_t index) override { m_activePaletteIndex = index; }
+  OdTcGroupContentList* contents() override { return m_contents; }
+
+private:
+  std::int32_t m_activePaletteIndex = -1;
+  OdSmartPtr<OdTcGroupContentList> m_contents;
+};
+
+class OdTcPaletteSoftRefImpl : public OdTcCatalogItemImplBase<OdTcPaletteSoftRef>
+{
+public:
+  static OdTcPaletteSoftRefPtr createNew(const OdString& paletteId = OdString());
+
+  OdString tagName() const override { return "ToolPalette"; }
+  // The reference answers to the palette's identifier.
+  OdString id() const override { return m_paletteId; }
+  void setId(const OdString& id) override { m_paletteId = id; }
+  bool setValue(const OdString& name, const OdVariant& value) override;
+  void writeBody(OdTcFiler* filer) override;
+  OdTcToolPalette* palette() override;
+
+private:
+  OdString m_paletteId;
+};
+
+class OdTcPaletteLoader : public OdTcCatalogItem
+{
+  ODRX_DECLARE_MEMBERS(OdTcPaletteLoader);
+
+public:
+  // The palette of the file that `href` names, resolved against the file
+  // path `basePath`; null when no file is there.
+  virtual OdSmartPtr<OdTcToolPalette> load(const OdString& basePath) = 0;
+  virtual OdSmartPtr<OdTcToolPalette> load() = 0;
+  virtual void setHref(const OdString& href) = 0;
+  virtual OdString href() const = 0;
+  // Shares the display record of the palette it stands for.
+  virtual void shareProperties(OdTcProperties* properties) = 0;
+};
+using OdTcPaletteLoaderPtr = OdSmartPtr<OdTcPaletteLoader>;
+
+class OdTcPaletteLoaderImpl : public OdTcCatalogItemImplBase<OdTcPaletteLoader>
+{
+public:
+  static OdTcPaletteLoaderPtr createNew();
+
+  OdString tagName() const override { return "Palette"; }
+  // A stub shows as expandable before its palette is read.
+  bool hasChildren() const override { return true; }
+  bool setValue(const OdString& name, const OdVariant& value) override;
+  void writeBody(OdTcFiler* filer) override;
+
+  OdSmartPtr<OdTcToolPalette> load(const OdString& basePath) override;
+  OdSmartPtr<OdTcToolPalette> load() override;
+  void setHref(const OdString& href) override { m_href = href; }
+  OdString href() const override { return m_href; }
+  void shareProperties(OdTcProperties* properties) override { m_properties = properties; }
+
+private:
+  OdString m_href;
+};
+
+} // namespace tc

@@ -1,0 +1,130 @@
+// The tool palette item.
+#include "OdTcToolPalette.h"
+
+#include "OdTcCatalog.h"
+#include "OdTcPalettePropertiesFilerImpl.h"
+#include "TcPathTokens.h"
+
+#include "OdRxSystemServices.h"
+
+namespace tc {
+
+ODRX_DEFINE_MEMBERS(OdTcToolPalette, OdTcCatalogItem, ODRX_CREATE_IMPL(OdTcToolPaletteImpl, OdTcToolPalette))
+
+namespace {
+constexpr int kNotSupported = 3;
+}
+
+OdTcToolPalettePtr OdTcToolPaletteImpl::createNew()
+{
+  return OdRxObjectImpl<OdTcToolPaletteImpl, OdTcToolPalette>::createObject();
+}
+
+OdTcToolPaletteImpl::OdTcToolPaletteImpl() : m_database(OdTcDatabaseImpl::createNew())
+{
+  m_database->setParent(this); // so that tools find their catalog
+}
+
+void OdTcToolPaletteImpl::copyFrom(const OdRxObject* source)
+{
+  OdTcPersistImpl<OdTcToolPalette>::copyFrom(source);
+  auto* src = dynamic_cast<const OdTcToolPaletteImpl*>(source);
+  if (!src)
+    return;
+  m_database = OdTcDatabasePtr(src->m_database->clone());
+  m_database->setParent(this);
+  m_grouped = src->m_grouped;
+}
+
+bool OdTcToolPaletteImpl::addChild(OdTcCatalogItem* tool)
+{
+  if (!m_database->addChild(tool))
+    return false;
+  if (m_updateOnAdd)
+    save();
+  fireItemAdded(tool);
+  return true;
+}
+
+void OdTcToolPaletteImpl::setPath(const OdString&)
+{
+  throw OdError(kNotSupported, "A palette's path follows its file");
+}
+
+void OdTcToolPaletteImpl::setFileRevision(const OdString&)
+{
+  throw OdError(kNotSupported, "A palette's file revision is not set");
+}
+
+OdString OdTcToolPaletteImpl::href()
+{
+  OdString result;
+  OdTcCatalog* owner = catalog();
+  makeRelativePath(owner ? owner->path() : OdString(), m_database->path(), result);
+  return result;
+}
+
+void OdTcToolPaletteImpl::setToolOrder(const OdArray<OdString>& ids)
+{
+  m_database->paletteUi()->toolOrder() = ids;
+  m_database->paletteUi()->setSortType(2);
+  m_database->setModified();
+}
+
+void OdTcToolPaletteImpl::setSortType(std::int32_t sortType)
+{
+  m_database->paletteUi()->setSortType(sortType);
+  m_database->setModified();
+}
+
+void OdTcToolPaletteImpl::setPreviewSize(std::int32_t size)
+{
+  m_database->paletteUi()->setPreviewSize(size);
+  m_database->setModified();
+}
+
+void OdTcToolPaletteImpl::setPreviewStyle(std::int32_t style)
+{
+  m_database->paletteUi()->setPreviewStyle(style);
+  m_database->setModified();
+}
+
+bool OdTcToolPaletteImpl::load(const OdString& path)
+{
+  if (m_database.isNull()) {
+    m_database = OdTcDatabaseImpl::createNew();
+    m_database->setParent(this);
+  }
+  m_database->setPath(path);
+  return m_database->load(path);
+}
+
+bool OdTcToolPaletteImpl::saveCopy(const OdString& path)
+{
+  const OdString own = m_database->path();
+  m_database->setPath(path);
+  const bool saved = m_database->save(path);
+  m_database->setPath(own);
+  return saved;
+}
+
+OdTcProperties* OdTcToolPaletteImpl::properties()
+{
+  return static_cast<OdTcDatabaseImpl*>(m_database.get())->properties();
+}
+
+void OdTcToolPaletteImpl::enableUpdate(bool saveNow)
+{
+  m_updateOnAdd = true;
+  if (saveNow)
+    save();
+}
+
+OdArray<OdString> OdTcToolPaletteImpl::unsupportedTools()
+{
+  // Tool kinds that cannot run, text tools and separators are listed once
+  // tools carry their kinds; a palette of plain items lists nothing.
+  return OdArray<OdString>();
+}
+
+} // namespace tc

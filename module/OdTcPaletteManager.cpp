@@ -1,0 +1,302 @@
+// The palette manager.
+#include "OdTcPaletteManager.h"
+
+#include "TcCfgChangeReactor.h"
+#include "TcHost.h"
+#include "TcModuleState.h"
+
+#include "CXStringW.h"
+#include "HostCore.h"
+#include "OdRxSystemServices.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+namespace tc {
+
+ODRX_DEFINE_MEMBERS(OdTcPaletteManager, OdRxObject,
+                    return OdRxObjectPtr(OdTcPaletteManagerImpl::createNew());)
+
+namespace {
+constexpr const char* kCatalogFile = "VdTcCatalog.vtc";
+
+bool isDirectory(const OdString& path)
+{
+  return QFileInfo(path.qstring()).isDir();
+}
+
+OdString userCatalogFolder()
+{
+  return valueStorage ? valueStorage->userCatalogFolder() : OdString();
+}
+
+OdString catalogPathList()
+{
+  return valueStorage ? valueStorage->catalogPaths() : OdString();
+}
+} // namespace
+
+class OdTcPaletteManagerImpl::EnumImpl : public OdTcEnumCatalog
+{
+public:
+  explicit EnumImpl(const std::map<OdString, OdTcCatalogPtr>* catalogs) : m_catalogs(catalogs), m_it(catalogs->begin()) {}
+  bool next(OdString& path, OdTcCatalog*& catalog) override
+  {
+    if (m_it == m_catalogs->end())
+      return false;
+    path = m_it->first;
+    catalog = m_it->second.get();
+    ++m_it;
+    return true;
+  }
+  void reset() override { m_it = m_catalogs->begin(); }
+
+private:
+  const std::map<OdString, OdTcCatalogPtr>* m_catalogs; // not owned
+  std::map<OdString, OdTcCatalogPtr>::const_iterator m_it;
+};
+
+OdTcPaletteManagerPtr OdTcPaletteManagerImpl::createNew()
+{
+  return OdRxObjectImpl<OdTcPaletteManagerImpl, OdTcPaletteManager>::createObject();
+}
+
+OdTcPaletteManagerImpl::OdTcPaletteManagerImpl()
+{
+  m_cfgReactor = new TcCfgChangeReactor([this] { refreshCatalogs(); });
+
+  const OdString user = userCatalogFolder();
+  for (const OdString& entry : splitPathList(catalogPathList())) {
+    if (entry != user)
+      continue;
+    for (const OdString& folder : {user, user + "/Palettes", user + "/Palettes/Images"})
+      if (!Fio_IsFileExist(folder))
+        QDir().mkpath(folder.qstring());
+  }
+
+  for (const char* e : {"bmp", "jpeg", "tiff", "jpg", "png"})
+    m_imageExtensions.append(e);
+  for (const char* e : {"dwg", "dxf", "dwf"})
+    m_drawingExtensions.append(e);
+}
+
+OdTcPaletteManagerImpl::~OdTcPaletteManagerImpl()
+{
+  m_cfgReactor->detach();
+  m_cfgReactor->release();
+}
+
+OdArray<OdString> OdTcPaletteManagerImpl::splitPathList(const OdString& list)
+{
+  OdArray<OdString> out;
+  if (list.find(u';') < 0) {
+    out.append(list);
+    return out;
+  }
+  for (const QString& piece : list.qstring().split(u';', Qt::SkipEmptyParts))
+    out.append(OdString(piece));
+  return out;
+}
+
+OdString OdTcPaletteManagerImpl::defaultCatalogPath() const
+{
+  return userCatalogFolder() + "/" + kCatalogFile;
+}
+
+void OdTcPaletteManagerImpl::addReactor(OdTcPaletteManagerReactor* reactor)
+{
+  if (reactor)
+    m_reactors.push_back(reactor);
+}
+
+void OdTcPaletteManagerImpl::removeReactor(OdTcPaletteManagerReactor* reactor)
+{
+  auto it = std::find(m_reactors.begin(), m_reactors.end(), reactor);
+  if (it != m_reactors.end())
+    m_reactors.erase(it);
+}
+
+void OdTcPaletteManagerImpl::createCatalog(const OdString& file)
+{
+  OdTcCatalogPtr catalog = OdTcCatalogImpl::createNew();
+  catalog->setName(CXStringW(CXStringW(file).FilePath()).GetFileName().str());
+  catalog->save(file);
+  addCatalog(file);
+}
+
+bool OdTcPaletteManagerImpl::loadCatalogs()
+{
+  const OdString defaultPath = defaultCatalogPath();
+  for (const OdString& entry : splitPathList(catalogPathList())) {
+    OdString folder = entry;
+    if (folder.isEmpty() || folder.getAt(folder.getLength() - 1) != u'/')
+      folder += "/";
+    if (!isDirectory(folder)) {
+      hostPrint(Supp_Translate("Cannot find Tool Palettes catalog directory: '%s'\n"), entry);
+      continue;
+    }
+    const OdString file = folder + kCatalogFile;
+    const bool exists = Fio_IsFileExist(file);
+    const bool needCreate = !exists && CXStringW(file).Compare(defaultPath) != 0;
+    if (needCreate) {
+      if (!Fio_IsWritableDir(entry)) {
+        hostPrint("Specified ToolPalette catalog path: %s is ReadOnly. Cannot create catalog  and suppor files\n",
+                  entry);
+        continue;
+      }
+      createCatalog(file);
+    } else {
+      openCatalog(file);
+    }
+  }
+  if (!m_currentCatalog && !m_catalogs.empty())
+    m_currentCatalog = m_catalogs.begin()->second;
+  return true;
+}
+
+bool OdTcPaletteManagerImpl::openCatalog(const OdString& path)
+{
+  OdTcCatalogPtr catalog = OdTcCatalogImpl::createNew();
+  if (!catalog->load(path)) {
+    // Missing or unreadable: a new catalog in memory, current at once. A
+    // later save writes it over the file, so an unreadable file is kept
+    // aside first.
+    if (Fio_IsFileExist(path) && !Fio_IsFileExist(path + ".unreadable"))
+      QFile::copy(path.qstring(), (path + ".unreadable").qstring());
+    catalog = OdTcCatalogImpl::createNew();
+    catalog->setId(odrxSystemServices()->createGuid());
+    catalog->setName(Supp_Translate("Tool Palettes"));
+    m_currentCatalog = catalog;
+  }
+  if (!Fio_IsWritableDir(CXStringW(path).FilePath()))
+    catalog->setLocked(true);
+  const bool isDefault = path == defaultCatalogPath();
+  if (isDefault)
+    catalog->setDefaultCatalog(true);
+  m_catalogs[path] = catalog;
+  forEachReactor([&](OdTcPaletteManagerReactor* r) { r->catalogAdded(catalog); });
+  if (isDefault)
+    m_currentCatalog = catalog;
+  return true;
+}
+
+bool OdTcPaletteManagerImpl::addCatalog(const OdString& path)
+{
+  if (!openCatalog(path))
+    return false;
+  auto it = m_catalogs.find(path);
+  if (it != m_catalogs.end())
+    it->second->setId(odrxSystemServices()->createGuid());
+  return true;
+}
+
+bool OdTcPaletteManagerImpl::removeCatalog(const OdString& id)
+{
+  for (auto it = m_catalogs.begin(); it != m_catalogs.end(); ++it) {
+    if (it->second->id().iCompare(id) != 0)
+      continue;
+    OdTcCatalogPtr keep = it->second;
+    forEachReactor([&](OdTcPaletteManagerReactor* r) { r->catalogRemoved(keep); });
+    m_catalogs.erase(it);
+    return true;
+  }
+  return false;
+}
+
+OdTcEnumCatalogPtr OdTcPaletteManagerImpl::catalogs()
+{
+  return OdTcEnumCatalogPtr(new OdRxObjectImpl<EnumImpl>(&m_catalogs), kOdRxObjAttach);
+}
+
+void OdTcPaletteManagerImpl::saveCatalogs()
+{
+  for (auto& [path, catalog] : m_catalogs)
+    catalog->save(path);
+}
+
+void OdTcPaletteManagerImpl::openConfig()
+{
+  // The manager keeps no configuration of its own: the switch stays off.
+  if (!m_configEnabled)
+    return;
+}
+
+OdTcCatalogItem* OdTcPaletteManagerImpl::findTool(const OdString& id)
+{
+  for (auto& [path, catalog] : m_catalogs) {
+    auto palettes = catalog->enumeratePalettes();
+    while (OdTcCatalogItem* item = palettes->next()) {
+      auto tools = static_cast<OdTcToolPalette*>(item)->enumerateTools();
+      while (OdTcCatalogItem* tool = tools->next())
+        if (tool->id() == id)
+          return tool;
+    }
+  }
+  return nullptr;
+}
+
+OdTcCatalog* OdTcPaletteManagerImpl::setCurrentCatalog(OdTcCatalog* catalog)
+{
+  if (catalog) {
+    m_currentCatalog = catalog;
+    return catalog;
+  }
+  for (auto& [path, c] : m_catalogs) {
+    if (c->isDefaultCatalog()) {
+      m_currentCatalog = c;
+      break;
+    }
+  }
+  return m_currentCatalog;
+}
+
+void OdTcPaletteManagerImpl::refreshCatalogs()
+{
+  const OdArray<OdString> list = splitPathList(catalogPathList());
+  const OdString defaultPath = defaultCatalogPath();
+  bool changed = false;
+
+  std::vector<OdString> gone;
+  for (const auto& [path, catalog] : m_catalogs)
+    if (!list.contains(CXStringW(path).FilePath().str()))
+      gone.push_back(path);
+  for (const OdString& path : gone) {
+    auto it = m_catalogs.find(path);
+    if (it == m_catalogs.end())
+      continue;
+    removeCatalog(it->second->id());
+    changed = true;
+  }
+
+  for (const OdString& entry : list) {
+    // The separator is added without looking: an entry that ends in one
+    // gives a key that differs from the one loadCatalogs made.
+    const OdString folder = entry + "/";
+    if (!isDirectory(folder)) {
+      hostPrint(Supp_Translate("Cannot find Tool Palettes catalog directory: '%s'\n"), entry);
+      continue;
+    }
+    const OdString file = folder + kCatalogFile;
+    const bool exists = Fio_IsFileExist(file);
+    const bool isDefault = file == defaultPath;
+    if (exists && !isDefault) {
+      if (!m_catalogs.count(file)) {
+        addCatalog(file);
+        changed = true;
+      }
+    } else if (exists && isDefault) {
+      if (m_catalogs.empty())
+        openCatalog(file);
+    } else if (!exists && !isDefault) {
+      createCatalog(file);
+      changed = true;
+    }
+  }
+  if (m_catalogs.empty())
+    m_currentCatalog = nullptr;
+  if (changed)
+    forEachReactor([](OdTcPaletteManagerReactor* r) { r->catalogsChanged(); });
+}
+
+} // namespace tc
