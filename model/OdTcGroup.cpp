@@ -97,6 +97,12 @@ void OdTcPaletteSoftRefImpl::writeBody(OdTcFiler* filer)
   filer->writeAttributeElement("ToolPalette", "ID", OdVariant(m_paletteId));
 }
 
+OdString OdTcPaletteSoftRefImpl::displayName() const
+{
+  OdTcToolPalette* target = const_cast<OdTcPaletteSoftRefImpl*>(this)->palette();
+  return target ? target->displayName() : OdTcCatalogItemImplBase<OdTcPaletteSoftRef>::displayName();
+}
+
 OdTcToolPalette* OdTcPaletteSoftRefImpl::palette()
 {
   const OdTcCatalog* owner = catalog();

@@ -57,6 +57,8 @@ public:
   // The reference answers to the palette's identifier.
   OdString id() const override { return m_paletteId; }
   void setId(const OdString& id) override { m_paletteId = id; }
+  // Shown under the name of its palette, while that is there.
+  OdString displayName() const override;
   bool setValue(const OdString& name, const OdVariant& value) override;
   void writeBody(OdTcFiler* filer) override;
   OdTcToolPalette* palette() override;

@@ -21,9 +21,11 @@ ODRX_DEFINE_MEMBERS(OdTcPaletteManager, OdRxObject,
 namespace {
 constexpr const char* kCatalogFile = "VdTcCatalog.vtc";
 
-bool isDirectory(const OdString& path)
+// An empty entry names no folder, even though the separator added to it
+// would name the root.
+bool isDirectory(const OdString& entry, const OdString& folder)
 {
-  return QFileInfo(path.qstring()).isDir();
+  return !entry.isEmpty() && QFileInfo(folder.qstring()).isDir();
 }
 
 OdString userCatalogFolder()
@@ -132,7 +134,7 @@ bool OdTcPaletteManagerImpl::loadCatalogs()
     OdString folder = entry;
     if (folder.isEmpty() || folder.getAt(folder.getLength() - 1) != u'/')
       folder += "/";
-    if (!isDirectory(folder)) {
+    if (!isDirectory(entry, folder)) {
       hostPrint(Supp_Translate("Cannot find Tool Palettes catalog directory: '%s'\n"), entry);
       continue;
     }
@@ -273,7 +275,7 @@ void OdTcPaletteManagerImpl::refreshCatalogs()
     // The separator is added without looking: an entry that ends in one
     // gives a key that differs from the one loadCatalogs made.
     const OdString folder = entry + "/";
-    if (!isDirectory(folder)) {
+    if (!isDirectory(entry, folder)) {
       hostPrint(Supp_Translate("Cannot find Tool Palettes catalog directory: '%s'\n"), entry);
       continue;
     }
