@@ -1,10 +1,9 @@
 // The catalog: its file, its palettes and groups.
 #include "OdTcCatalog.h"
 
-#include "OdTcCatalogFilerImpl.h"
 #include "TcHost.h"
 #include "TcPathTokens.h"
-#include "TcSafeFile.h"
+#include "TcFileIo.h"
 
 #include "CXStringW.h"
 #include "HostCore.h"
@@ -242,15 +241,8 @@ bool OdTcCatalogImpl::load(const OdString& path)
   m_path = path;
   if (!Fio_IsFileExist(path))
     return false;
-  try {
-    OdTcFilerPtr filer = OdTcCatalogFilerImpl::createObject();
-    OdStreamBufPtr stream =
-        odrxSystemServices()->createFile(path, Oda::kFileRead, Oda::kShareDenyNo, Oda::kOpenExisting);
-    if (!filer->openCatalog(stream, this, false))
-      return false;
-  } catch (const OdError&) {
+  if (!odtcReadFile(path, this, TcFileKind::Catalog))
     return false;
-  }
   m_loaders->setParent(this);
   m_groups->setParent(this);
   auto loaders = m_loaders->enumerate();
@@ -302,17 +294,7 @@ bool OdTcCatalogImpl::save(const OdString& path)
     m_loaders->add(loader);
   }
   m_path = path;
-  try {
-    TcSafeFile file(path);
-    OdTcFilerPtr filer = OdTcCatalogFilerImpl::createObject();
-    if (!filer->openCatalog(file.stream(), this, true))
-      return false;
-    filer->flush();
-    filer = nullptr;
-    return file.commit();
-  } catch (const OdError&) {
-    return false;
-  }
+  return odtcWriteFile(path, this, TcFileKind::Catalog);
 }
 
 OdTcToolPalettePtr OdTcCatalogImpl::importPalette(const OdString& path)

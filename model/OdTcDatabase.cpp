@@ -1,10 +1,7 @@
 // The palette database and its file.
 #include "OdTcDatabase.h"
 
-#include "OdTcPalettePropertiesFilerImpl.h"
-#include "TcSafeFile.h"
-
-#include "OdRxSystemServices.h"
+#include "TcFileIo.h"
 
 namespace tc {
 
@@ -108,30 +105,13 @@ void OdTcDatabaseImpl::addMember(OdTcPersist* member)
 
 bool OdTcDatabaseImpl::load(const OdString& path)
 {
-  try {
-    OdTcFilerPtr filer = OdTcPalettePropertiesFilerImpl::createObject();
-    OdStreamBufPtr stream =
-        odrxSystemServices()->createFile(path, Oda::kFileRead, Oda::kShareDenyNo, Oda::kOpenExisting);
-    return filer->openPalette(stream, this, false);
-  } catch (const OdError&) {
-    return false;
-  }
+  return odtcReadFile(path, this, TcFileKind::Palette);
 }
 
 bool OdTcDatabaseImpl::save(const OdString& path)
 {
   m_path = path;
-  try {
-    TcSafeFile file(path);
-    OdTcFilerPtr filer = OdTcPalettePropertiesFilerImpl::createObject();
-    if (!filer->openPalette(file.stream(), this, true))
-      return false;
-    filer->flush();
-    filer = nullptr;
-    return file.commit();
-  } catch (const OdError&) {
-    return false;
-  }
+  return odtcWriteFile(path, this, TcFileKind::Palette);
 }
 
 } // namespace tc

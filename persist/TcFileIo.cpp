@@ -1,0 +1,53 @@
+// Whole-file reads and writes.
+#include "TcFileIo.h"
+
+#include "OdTcCatalogFilerImpl.h"
+#include "OdTcPalettePropertiesFilerImpl.h"
+#include "TcSafeFile.h"
+
+#include "OdRxSystemServices.h"
+
+namespace tc {
+
+namespace {
+OdTcFilerPtr filerFor(TcFileKind kind)
+{
+  return kind == TcFileKind::Catalog ? OdTcCatalogFilerImpl::createObject()
+                                     : OdTcPalettePropertiesFilerImpl::createObject();
+}
+
+bool open(OdTcFiler* filer, OdStreamBuf* stream, OdTcPersist* root, TcFileKind kind, bool write)
+{
+  return kind == TcFileKind::Catalog ? filer->openCatalog(stream, root, write)
+                                     : filer->openPalette(stream, root, write);
+}
+} // namespace
+
+bool odtcReadFile(const OdString& path, OdTcPersist* root, TcFileKind kind)
+{
+  try {
+    OdTcFilerPtr filer = filerFor(kind);
+    OdStreamBufPtr stream =
+        odrxSystemServices()->createFile(path, Oda::kFileRead, Oda::kShareDenyNo, Oda::kOpenExisting);
+    return open(filer, stream, root, kind, false);
+  } catch (const OdError&) {
+    return false;
+  }
+}
+
+bool odtcWriteFile(const OdString& path, OdTcPersist* root, TcFileKind kind)
+{
+  try {
+    TcSafeFile file(path);
+    OdTcFilerPtr filer = filerFor(kind);
+    if (!open(filer, file.stream(), root, kind, true))
+      return false;
+    filer->flush();
+    filer = nullptr; // the filer holds the stream: let go before the rename
+    return file.commit();
+  } catch (const OdError&) {
+    return false;
+  }
+}
+
+} // namespace tc

@@ -1,0 +1,22 @@
+// Reading and writing a whole catalog or palette file through its filer.
+#pragma once
+
+#include "OdTcPersist.h"
+
+namespace tc {
+
+enum class TcFileKind
+{
+  Catalog,
+  Palette
+};
+
+// Fills `root` from the file. False when the file cannot be opened or the
+// filer refuses it; errors of the stream never escape.
+bool odtcReadFile(const OdString& path, OdTcPersist* root, TcFileKind kind);
+
+// Writes `root` to the file, beside it first and renamed over it at the end,
+// so that a failure leaves the old file whole. False on any failure.
+bool odtcWriteFile(const OdString& path, OdTcPersist* root, TcFileKind kind);
+
+} // namespace tc
