@@ -10,12 +10,12 @@ ODRX_DEFINE_MEMBERS(OdTcImage, OdTcPersist, ODRX_CREATE_IMPL(OdTcImageImpl, OdTc
 const OdString kProgramBtnRes("%ProgramBtnRes%");
 const OdString kAcadBtnResource("acadbtn.xmx");
 
-bool odtcIsResourceMarker(const OdString& src)
+bool isImageResourceMarker(const OdString& src)
 {
   return src == kProgramBtnRes || src == kAcadBtnResource;
 }
 
-int odtcSizeOfClass(int sizeClass)
+int imageSizeOfClass(int sizeClass)
 {
   switch (sizeClass) {
   case 2: return 24;
@@ -25,7 +25,7 @@ int odtcSizeOfClass(int sizeClass)
   }
 }
 
-OdString odtcSuffixOfClass(int sizeClass)
+OdString imageSuffixOfClass(int sizeClass)
 {
   switch (sizeClass) {
   case 1: return "16";
@@ -34,7 +34,7 @@ OdString odtcSuffixOfClass(int sizeClass)
   }
 }
 
-int odtcClassOfSize(int size)
+int imageClassOfSize(int size)
 {
   switch (size) {
   case 16: return 1;
@@ -68,7 +68,7 @@ void OdTcImageImpl::copyFrom(const OdRxObject* source)
 void OdTcImageImpl::setSizeClass(int sizeClass)
 {
   m_sizeClass = sizeClass;
-  m_cx = m_cy = odtcSizeOfClass(sizeClass);
+  m_cx = m_cy = imageSizeOfClass(sizeClass);
 }
 
 void OdTcImageImpl::setSource(const OdString& src, const OdString& resource)
@@ -98,7 +98,7 @@ bool OdTcImageImpl::readAttribute(const OdString& name, const OdVariant& value)
 {
   if (name == "cx") {
     m_cx = odWcstol(value.getString());
-    m_sizeClass = odtcClassOfSize(m_cx);
+    m_sizeClass = imageClassOfSize(m_cx);
   } else if (name == "cy") {
     m_cy = odWcstol(value.getString());
   } else if (name == "src") {

@@ -7,17 +7,17 @@
 namespace tc {
 
 // The size classes: 1, 2, 3, 4 for 16, 24, 32 and 64 pixels.
-int odtcSizeOfClass(int sizeClass);
+int imageSizeOfClass(int sizeClass);
 // The file name suffix of a size class ("16", "32", "64"); class 2 borrows
 // the suffix of the class above it.
-OdString odtcSuffixOfClass(int sizeClass);
+OdString imageSuffixOfClass(int sizeClass);
 // The class of a width: 16, 24, 32, 64; any other width counts as 32.
-int odtcClassOfSize(int size);
+int imageClassOfSize(int size);
 
 // The two texts of "src" that mean "the host's button resource".
 extern const OdString kProgramBtnRes;     // "%ProgramBtnRes%"
 extern const OdString kAcadBtnResource;   // "acadbtn.xmx"
-bool odtcIsResourceMarker(const OdString& src);
+bool isImageResourceMarker(const OdString& src);
 
 class OdTcImage : public OdTcPersist
 {

@@ -241,7 +241,7 @@ bool OdTcCatalogImpl::load(const OdString& path)
   m_path = path;
   if (!Fio_IsFileExist(path))
     return false;
-  if (!odtcReadFile(path, this, TcFileKind::Catalog))
+  if (!readTcFile(path, this, TcFileKind::Catalog))
     return false;
   m_loaders->setParent(this);
   m_groups->setParent(this);
@@ -294,7 +294,7 @@ bool OdTcCatalogImpl::save(const OdString& path)
     m_loaders->add(loader);
   }
   m_path = path;
-  return odtcWriteFile(path, this, TcFileKind::Catalog);
+  return writeTcFile(path, this, TcFileKind::Catalog);
 }
 
 OdTcToolPalettePtr OdTcCatalogImpl::importPalette(const OdString& path)

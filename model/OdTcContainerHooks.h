@@ -8,7 +8,7 @@ class OdTcPersist;
 class OdTcDatabase;
 class OdTcCatalog;
 
-void odtcRegisterWithDatabase(OdTcDatabase* database, OdTcPersist* object);
-void odtcRegisterWithCatalog(OdTcCatalog* catalog, OdTcPersist* object);
+void registerWithDatabase(OdTcDatabase* database, OdTcPersist* object);
+void registerWithCatalog(OdTcCatalog* catalog, OdTcPersist* object);
 
 } // namespace tc

@@ -105,13 +105,13 @@ void OdTcDatabaseImpl::addMember(OdTcPersist* member)
 
 bool OdTcDatabaseImpl::load(const OdString& path)
 {
-  return odtcReadFile(path, this, TcFileKind::Palette);
+  return readTcFile(path, this, TcFileKind::Palette);
 }
 
 bool OdTcDatabaseImpl::save(const OdString& path)
 {
   m_path = path;
-  return odtcWriteFile(path, this, TcFileKind::Palette);
+  return writeTcFile(path, this, TcFileKind::Palette);
 }
 
 } // namespace tc

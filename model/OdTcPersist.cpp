@@ -11,12 +11,12 @@ namespace tc {
 
 ODRX_NO_CONS_DEFINE_MEMBERS(OdTcPersist, OdRxObject)
 
-void odtcRegisterWithDatabase(OdTcDatabase* database, OdTcPersist* object)
+void registerWithDatabase(OdTcDatabase* database, OdTcPersist* object)
 {
   database->addMember(object);
 }
 
-void odtcRegisterWithCatalog(OdTcCatalog* catalog, OdTcPersist* object)
+void registerWithCatalog(OdTcCatalog* catalog, OdTcPersist* object)
 {
   catalog->addMember(object);
 }

@@ -61,13 +61,13 @@ public:
   {
     m_parent = parent;
     if (OdTcDatabase* db = database())
-      odtcRegisterWithDatabase(db, this);
+      registerWithDatabase(db, this);
   }
   void attachToCatalog(OdTcPersist* parent) override
   {
     m_parent = parent;
     if (OdTcCatalog* cat = catalog())
-      odtcRegisterWithCatalog(cat, this);
+      registerWithCatalog(cat, this);
   }
   void setOwner(OdTcPersist* parent) override { m_parent = parent; }
 

@@ -27,7 +27,7 @@ struct LibraryEntry
   LibraryEntry()
   {
     Dl_info info{};
-    if (dladdr(reinterpret_cast<void*>(&odtcLibraryAnchor), &info) && info.dli_fname)
+    if (dladdr(reinterpret_cast<void*>(&libraryAnchor), &info) && info.dli_fname)
       instance = dlopen(info.dli_fname, RTLD_NOW | RTLD_NOLOAD);
     // The host's translation of this module's resources, when it has one.
     using InitFn = void (*)(void*);
@@ -49,7 +49,7 @@ struct LibraryEntry
     if (afxMain)
       afxMain(instance, 0);
   }
-  static void odtcLibraryAnchor() {}
+  static void libraryAnchor() {}
 } g_libraryEntry;
 
 } // namespace

@@ -8,7 +8,7 @@
 
 namespace tc {
 
-OdString odtcUtf8(const char* text)
+OdString textFromUtf8(const char* text)
 {
   return text ? OdString::fromUtf8(text) : OdString();
 }
@@ -58,7 +58,7 @@ bool OdTcFilerImplBase::next()
 
 OdString OdTcFilerImplBase::tagOf(const TiXmlElement* element) const
 {
-  return odtcUtf8(element->Value());
+  return textFromUtf8(element->Value());
 }
 
 bool OdTcFilerImplBase::readNext(OdTcValueMap& values)
@@ -72,11 +72,11 @@ bool OdTcFilerImplBase::readNext(OdTcValueMap& values)
       return true;
     }
   }
-  const OdString text = odtcUtf8(m_currentElement->GetText());
+  const OdString text = textFromUtf8(m_currentElement->GetText());
   const TiXmlAttribute* attribute = m_currentElement->FirstAttribute();
   if (attribute) {
     for (; attribute; attribute = attribute->Next())
-      values[odtcUtf8(attribute->Name())] = OdVariant(odtcUtf8(attribute->Value()));
+      values[textFromUtf8(attribute->Name())] = OdVariant(textFromUtf8(attribute->Value()));
     if (!text.isEmpty())
       values[name] = OdVariant(text);
     next();
@@ -95,14 +95,14 @@ bool OdTcFilerImplBase::readAttributes(OdTcValueMap& values)
     return false;
   const TiXmlAttribute* attribute = m_currentElement->FirstAttribute();
   if (!attribute) {
-    const OdString text = odtcUtf8(m_currentElement->GetText());
+    const OdString text = textFromUtf8(m_currentElement->GetText());
     if (text.isEmpty())
       return false;
-    values[odtcUtf8(m_currentElement->Value())] = OdVariant(text);
+    values[textFromUtf8(m_currentElement->Value())] = OdVariant(text);
     return true;
   }
   for (; attribute; attribute = attribute->Next())
-    values[odtcUtf8(attribute->Name())] = OdVariant(odtcUtf8(attribute->Value()));
+    values[textFromUtf8(attribute->Name())] = OdVariant(textFromUtf8(attribute->Value()));
   return true;
 }
 

@@ -78,6 +78,6 @@ protected:
   OdTcPersistPtr m_root;
 };
 
-OdString odtcUtf8(const char* text);
+OdString textFromUtf8(const char* text);
 
 } // namespace tc

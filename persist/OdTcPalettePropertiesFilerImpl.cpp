@@ -65,11 +65,11 @@ OdTcFormattedValue OdTcPalettePropertiesFilerImpl::formatValue(const OdVariant& 
 
 OdString OdTcPalettePropertiesFilerImpl::tagOf(const TiXmlElement* element) const
 {
-  const OdString name = odtcUtf8(element->Value());
+  const OdString name = textFromUtf8(element->Value());
   if (name != "CreateInfo")
     return name;
   const TiXmlNode* parentNode = element->Parent();
-  const OdString parent = parentNode ? odtcUtf8(parentNode->Value()) : OdString();
+  const OdString parent = parentNode ? textFromUtf8(parentNode->Value()) : OdString();
   if (parent == "Layer")
     return "LayerCreateInfo";
   if (parent == "Color")

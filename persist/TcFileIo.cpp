@@ -23,7 +23,7 @@ bool open(OdTcFiler* filer, OdStreamBuf* stream, OdTcPersist* root, TcFileKind k
 }
 } // namespace
 
-bool odtcReadFile(const OdString& path, OdTcPersist* root, TcFileKind kind)
+bool readTcFile(const OdString& path, OdTcPersist* root, TcFileKind kind)
 {
   try {
     OdTcFilerPtr filer = filerFor(kind);
@@ -35,7 +35,7 @@ bool odtcReadFile(const OdString& path, OdTcPersist* root, TcFileKind kind)
   }
 }
 
-bool odtcWriteFile(const OdString& path, OdTcPersist* root, TcFileKind kind)
+bool writeTcFile(const OdString& path, OdTcPersist* root, TcFileKind kind)
 {
   try {
     TcSafeFile file(path);

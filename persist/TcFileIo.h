@@ -13,10 +13,10 @@ enum class TcFileKind
 
 // Fills `root` from the file. False when the file cannot be opened or the
 // filer refuses it; errors of the stream never escape.
-bool odtcReadFile(const OdString& path, OdTcPersist* root, TcFileKind kind);
+bool readTcFile(const OdString& path, OdTcPersist* root, TcFileKind kind);
 
 // Writes `root` to the file, beside it first and renamed over it at the end,
 // so that a failure leaves the old file whole. False on any failure.
-bool odtcWriteFile(const OdString& path, OdTcPersist* root, TcFileKind kind);
+bool writeTcFile(const OdString& path, OdTcPersist* root, TcFileKind kind);
 
 } // namespace tc
