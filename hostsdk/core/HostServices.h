@@ -35,6 +35,16 @@ public:
   // Types text on the document's command line, in the host's macro
   // notation ("^C" cancels, "^M" or a new line ends an input).
   virtual void sendCommand(const OdString& text) = 0;
+  // Reads one input for the running command from the document's command
+  // line, after printing `prompt`. Input ends at Enter ("^M" or a new line),
+  // or also at a space unless `allowSpaces`; a quoted text keeps its spaces
+  // and its quotes. False when the input was cancelled ("^C") or none is
+  // left; the running command then counts as cancelled.
+  virtual bool getString(const OdString& prompt, OdString& out, bool allowSpaces = false)
+  {
+    out = OdString();
+    return false;
+  }
   // Locks the document for changes outside a command, under a name.
   virtual void lockDocument(const OdString& name) {}
   virtual void unlockDocument() {}

@@ -1,0 +1,132 @@
+// NewDocument, OpenDocument, CloseDocument, Exit and SETDIR.
+#include "HostBuiltinCommands.h"
+
+#include "HostApp.h"
+#include "HostCommandLine.h"
+#include "HostCommandTable.h"
+#include "HostDocumentManager.h"
+#include "HostOutput.h"
+
+namespace {
+
+HostApp& app()
+{
+  return HostApp::instance();
+}
+
+// A file name typed in double quotes (for spaces at its ends) loses them.
+OdString unquoted(OdString text)
+{
+  text.trimLeft();
+  text.trimRight();
+  if (text.getLength() >= 2 && text.getAt(0) == u'"' && text.getAt(text.getLength() - 1) == u'"')
+    text = text.mid(1, text.getLength() - 2);
+  return text;
+}
+
+// A named parameter of a run by name, else an input typed on the command
+// line. False when the user cancelled.
+bool parameterOrInput(IMemParam* parameters, const char* name, const OdString& prompt, bool allowSpaces,
+                      OdString& out)
+{
+  CRkVariant value;
+  if (parameters && parameters->getValue(name, value)) {
+    out = value.toString();
+    return true;
+  }
+  return app().commandLine().getString(prompt, out, allowSpaces);
+}
+
+void newDocument(IMemParam*)
+{
+  HostDocumentImpl* document = app().documents().newDocument();
+  app().output().printLine(OdString::formatted("New document %s.", document->documentName()));
+}
+
+void openDocument(IMemParam* parameters)
+{
+  OdString file;
+  if (!parameterOrInput(parameters, "FileName", "File to open: ", true, file))
+    return;
+  file = unquoted(file);
+  if (file.isEmpty()) {
+    app().output().printLine("No file name given; nothing was opened.");
+    return;
+  }
+  OdString error;
+  if (HostDocumentImpl* document = app().documents().openDocument(file, error))
+    app().output().printLine(OdString::formatted("Opened %s.", document->documentName()));
+  else
+    app().output().printLine(OdString::formatted("Cannot open the document: %s.", error));
+}
+
+void closeDocument(IMemParam*)
+{
+  HostDocumentImpl* document = app().documents().current();
+  if (!document) {
+    app().output().printLine("No document is open.");
+    return;
+  }
+  const OdString name = document->documentName();
+  app().documents().closeDocument(document);
+  app().output().printLine(OdString::formatted("Closed %s.", name));
+}
+
+void exitHost(IMemParam*)
+{
+  app().requestExit();
+}
+
+// SETDIR: a key on the first input, its value on the second (spaces
+// allowed, empty allowed). Changes the option as the options of the host
+// change, with notice to the property reactors.
+void setDir(IMemParam* parameters)
+{
+  OdString key;
+  if (!parameterOrInput(parameters, "Key", "Setting (ToolPaletteDir, CommonDirs, Shx): ", false, key))
+    return;
+  key = unquoted(key);
+  if (!HostApp::isOptionKey(key)) {
+    app().output().printLine(OdString::formatted(
+        "\"%s\" is no setting of Verdani: use ToolPaletteDir, CommonDirs or Shx.", key));
+    return;
+  }
+  OdString value;
+  if (!parameterOrInput(parameters, "Value", "New value: ", true, value))
+    return;
+  value = unquoted(value);
+  OdString error;
+  if (!app().setOption(key, value, &error))
+    app().output().printLine(error);
+  else
+    app().output().printLine(OdString::formatted("%s is now \"%s\".", HostApp::optionKeyName(key), value));
+}
+
+void add(const char* name, HostCommandFn function)
+{
+  HostCommand command;
+  command.group = HostBuiltinCommands::kGroup;
+  command.localName = command.globalName = OdString(name);
+  command.kind = HostCommand::kHost;
+  command.host = std::move(function);
+  HostCommandTable::instance().add(command);
+}
+
+} // namespace
+
+namespace HostBuiltinCommands {
+
+void registerAll()
+{
+  static bool done = false;
+  if (done)
+    return;
+  done = true;
+  add("NewDocument", &newDocument);
+  add("OpenDocument", &openDocument);
+  add("CloseDocument", &closeDocument);
+  add("Exit", &exitHost);
+  add("SETDIR", &setDir);
+}
+
+} // namespace HostBuiltinCommands

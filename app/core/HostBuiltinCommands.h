@@ -1,0 +1,16 @@
+// The host's own commands, in the group "VERDANI": NewDocument,
+// OpenDocument, CloseDocument, Exit, SETDIR. More are added here.
+#pragma once
+
+#include "OdString.h"
+
+class HostApp;
+
+namespace HostBuiltinCommands {
+
+inline constexpr const char* kGroup = "VERDANI";
+
+// Registers the commands once per process; later calls do nothing.
+void registerAll();
+
+} // namespace HostBuiltinCommands

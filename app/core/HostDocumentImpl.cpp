@@ -1,0 +1,38 @@
+// Documents.
+#include "HostDocumentImpl.h"
+
+#include "HostApp.h"
+#include "HostCommandLine.h"
+#include "HostOutput.h"
+
+HostDocumentImpl::HostDocumentImpl(HostApp& app, const OdString& name, const OdString& filePath)
+    : m_app(app), m_name(name), m_filePath(filePath)
+{
+}
+
+HostCommandOutput* HostDocumentImpl::commandOutput()
+{
+  return &m_app.output();
+}
+
+void HostDocumentImpl::sendCommand(const OdString& text)
+{
+  m_app.commandLine().type(text);
+}
+
+bool HostDocumentImpl::getString(const OdString& prompt, OdString& out, bool allowSpaces)
+{
+  return m_app.commandLine().getString(prompt, out, allowSpaces);
+}
+
+void HostDocumentImpl::lockDocument(const OdString& name)
+{
+  if (m_lockDepth++ == 0)
+    m_lockName = name;
+}
+
+void HostDocumentImpl::unlockDocument()
+{
+  if (m_lockDepth > 0 && --m_lockDepth == 0)
+    m_lockName = OdString();
+}
