@@ -1,5 +1,5 @@
 // The catalog: its file, its palettes and groups.
-#include "OdTcCatalog.h"
+#include "OdTcCatalogImpl.h"
 
 #include "TcHost.h"
 #include "TcPathTokens.h"

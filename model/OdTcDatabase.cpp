@@ -1,5 +1,5 @@
 // The palette database and its file.
-#include "OdTcDatabase.h"
+#include "OdTcDatabaseImpl.h"
 
 #include "TcFileIo.h"
 

@@ -1,8 +1,8 @@
 // Groups, palette references and palette stubs.
-#include "OdTcGroup.h"
+#include "OdTcGroupImpl.h"
 
 #include "OdTcCatalog.h"
-#include "OdTcToolPalette.h"
+#include "OdTcToolPaletteImpl.h"
 #include "TcPathTokens.h"
 
 #include "HostCore.h"

@@ -1,5 +1,5 @@
 // The tool palette item.
-#include "OdTcToolPalette.h"
+#include "OdTcToolPaletteImpl.h"
 
 #include "OdTcCatalog.h"
 #include "OdTcPalettePropertiesFilerImpl.h"

@@ -1,7 +1,7 @@
 // Start and stop of the module.
 #include "OdTcModule.h"
 
-#include "OdTcPaletteManager.h"
+#include "OdTcPaletteManagerImpl.h"
 
 #include "TcClassTable.h"
 #include "TcHost.h"

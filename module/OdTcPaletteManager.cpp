@@ -1,5 +1,5 @@
 // The palette manager.
-#include "OdTcPaletteManager.h"
+#include "OdTcPaletteManagerImpl.h"
 
 #include "TcCfgChangeReactor.h"
 #include "TcHost.h"

@@ -2,7 +2,7 @@
 // it comes into the module.
 #include "TcClassTable.h"
 
-#include "OdTcCatalog.h"
+#include "OdTcCatalogImpl.h"
 #include "OdTcCatalogItem.h"
 #include "OdTcPaletteManager.h"
 #include "OdTcImageList.h"

@@ -2,7 +2,7 @@
 #include "OdTcFiler.h"
 #include "OdTcTagTable.h"
 
-#include "OdTcCatalog.h"
+#include "OdTcCatalogImpl.h"
 #include "OdTcImageList.h"
 #include "OdTcLists.h"
 #include "OdTcOrderLists.h"

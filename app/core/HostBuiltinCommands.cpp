@@ -6,6 +6,7 @@
 #include "HostCommandTable.h"
 #include "HostDocumentManager.h"
 #include "HostOutput.h"
+#include "HostToolPalettes.h"
 
 namespace {
 
@@ -127,6 +128,7 @@ void registerAll()
   add("CloseDocument", &closeDocument);
   add("Exit", &exitHost);
   add("SETDIR", &setDir);
+  HostToolPalettes::registerCommands();
 }
 
 } // namespace HostBuiltinCommands

@@ -33,19 +33,13 @@ config="$home/config/verdani/config.xml"
 grep -qF '/tmp/palettes with space' "$config" || fail "ToolPaletteDir not in $config"
 grep -qF '/srv/common' "$config" || fail "--set CommonDirs not in $config"
 
-# The module's commands, when the module beside the console loads (whether
-# it loads is the module's own tests' business; a failure is noted here and
-# the host must go on).
-if [ -e "$(dirname "$console")/libtoolpalettes.so" ]; then
-  printf 'ToolPalettes\n__executetool\n\nExit\n' | "$console" >"$home/out2.txt" 2>&1 || fail "exit code with the module"
-  cat "$home/out2.txt"
-  if grep -qF 'Cannot load module' "$home/out2.txt"; then
-    echo "NOTE: the module beside the console did not load; its commands were not checked"
-    expect_line 'Command: Exit' "$home/out2.txt"
-  else
-    grep -qF 'Unknown command' "$home/out2.txt" && fail "a command of the module is missing"
-  fi
-fi
+# The module beside the console loads by name, and its two commands are
+# there.
+printf 'ToolPalettes\n__executetool\n\nExit\n' | "$console" >"$home/out2.txt" 2>&1 || fail "exit code with the module"
+cat "$home/out2.txt"
+grep -qF 'Cannot load module' "$home/out2.txt" && fail "the module did not load"
+grep -qF 'Unknown command' "$home/out2.txt" && fail "a command of the module is missing"
+expect_line 'Command: Exit' "$home/out2.txt"
 
 # Standard input, a drawing that does not exist, and a bad option.
 echo Exit | "$console" "$home/nothing.dxf" >"$home/out3.txt" 2>&1 || fail "exit code with a missing drawing"

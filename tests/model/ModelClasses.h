@@ -2,7 +2,7 @@
 // the module does at start.
 #pragma once
 
-#include "OdTcCatalog.h"
+#include "OdTcCatalogImpl.h"
 #include "OdTcImageList.h"
 #include "OdTcPaletteUi.h"
 

@@ -2,7 +2,7 @@
 // of palette files, removal, references, and what a failed save leaves.
 #include "ModelClasses.h"
 
-#include "OdTcCatalog.h"
+#include "OdTcCatalogImpl.h"
 
 #include "HostCore.h"
 

@@ -2,7 +2,7 @@
 // folders, refreshes after configuration changes, look-ups.
 #include "FakeHost.h"
 
-#include "OdTcPaletteManager.h"
+#include "OdTcPaletteManagerImpl.h"
 #include "TcClassTable.h"
 #include "TcModuleState.h"
 
