@@ -31,6 +31,14 @@ TcSafeFile::~TcSafeFile()
 
 bool TcSafeFile::commit()
 {
+  // A write that failed in the file's buffer shows only here: never rename
+  // a file that did not reach the disk whole.
+  try {
+    m_stream->flush();
+  } catch (const OdError&) {
+    m_stream = nullptr;
+    return false;
+  }
   m_stream = nullptr; // closes the file
   const QByteArray from = QFile::encodeName(m_temporary.qstring());
   const QByteArray to = QFile::encodeName(m_target.qstring());

@@ -128,6 +128,11 @@ public:
       throw OdError_FileException(eFileAccessErr, fileName());
   }
   void truncate() override { m_file.resize(m_file.pos()); }
+  void flush() override
+  {
+    if (!m_file.flush() || m_file.error() != QFileDevice::NoError)
+      throw OdError_FileException(eFileAccessErr, fileName());
+  }
 
 private:
   QFile m_file;

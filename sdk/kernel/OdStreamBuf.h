@@ -24,6 +24,10 @@ public:
   virtual void putBytes(const void* buffer, std::uint32_t count) = 0;
   virtual void putByte(std::uint8_t value);
   virtual void truncate() {}
+  // Hands everything written so far to the file system; throws
+  // OdError_FileException when that fails (a full disk, a size limit).
+  // Closing a stream without it may lose such an error.
+  virtual void flush() {}
   virtual void rewind() { seek(0, kSeekFromStart); }
 };
 using OdStreamBufPtr = OdSmartPtr<OdStreamBuf>;

@@ -11,6 +11,10 @@
 #include <QFileInfo>
 #include <QTemporaryDir>
 
+#include <csignal>
+
+#include <sys/resource.h>
+
 #include <gtest/gtest.h>
 
 using namespace tc;
@@ -241,14 +245,28 @@ TEST_F(CatalogFiles, failedSave_leavesTheOldFileAndNoTemporaries)
   const OdString path = file("VdTcCatalog.vtc");
   ASSERT_TRUE(catalog->save(path));
   const std::string before = readAll(path);
-  // A folder in the way of the rename makes the save fail midway.
-  OdTcCatalogPtr other = OdTcCatalogImpl::createNew();
-  ASSERT_TRUE(QDir(m_dir.path()).mkdir(QStringLiteral("blocked.vtc")));
-  EXPECT_FALSE(other->save(file("blocked.vtc")));
+
+  // Writes past a few bytes fail, for the super-user too, whom permissions
+  // would not stop: the save fails in the middle of writing.
+  catalog->setName("A much longer name that no longer fits");
+  struct rlimit old {};
+  ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &old), 0);
+  auto oldSignal = std::signal(SIGXFSZ, SIG_IGN);
+  struct rlimit tiny = old;
+  tiny.rlim_cur = 64;
+  ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &tiny), 0);
+  const bool saved = catalog->save(path);
+  setrlimit(RLIMIT_FSIZE, &old);
+  std::signal(SIGXFSZ, oldSignal);
+
+  EXPECT_FALSE(saved);
   EXPECT_EQ(readAll(path), before);
   const QStringList left = QDir(m_dir.path()).entryList(QDir::Files | QDir::Hidden);
-  for (const QString& name : left)
-    EXPECT_FALSE(name.contains(QStringLiteral(".tmp-"))) << name.toStdString();
+  EXPECT_EQ(left, QStringList{QStringLiteral("VdTcCatalog.vtc")});
+  // A folder in the way of the rename fails too, and leaves nothing behind.
+  ASSERT_TRUE(QDir(m_dir.path()).mkdir(QStringLiteral("blocked.vtc")));
+  EXPECT_FALSE(catalog->save(file("blocked.vtc")));
+  EXPECT_EQ(QDir(m_dir.path()).entryList(QDir::Files | QDir::Hidden), QStringList{QStringLiteral("VdTcCatalog.vtc")});
 }
 
 TEST_F(CatalogFiles, paletteRecords_defaultsAndOddValues)
