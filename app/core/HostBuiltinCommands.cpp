@@ -1,4 +1,5 @@
-// NewDocument, OpenDocument, CloseDocument, Exit and SETDIR.
+// NewDocument, OpenDocument, CloseDocument, SaveDocument, SaveAsDocument,
+// Exit and SETDIR.
 #include "HostBuiltinCommands.h"
 
 #include "HostApp.h"
@@ -7,6 +8,10 @@
 #include "HostDocumentManager.h"
 #include "HostOutput.h"
 #include "HostToolPalettes.h"
+
+#include "OdDxf.h"
+
+#include <QFileInfo>
 
 namespace {
 
@@ -73,6 +78,66 @@ void closeDocument(IMemParam*)
   app().output().printLine(OdString::formatted("Closed %s.", name));
 }
 
+// Writes the document's drawing as DXF; false with a message on failure.
+bool writeDrawing(HostDocumentImpl* document, const OdString& path)
+{
+  try {
+    odDxfWriteFile(document->database(), path);
+  } catch (const OdError& e) {
+    app().output().printLine(OdString::formatted("Cannot save the drawing: %s.", e.description()));
+    return false;
+  }
+  return true;
+}
+
+void saveDocument(IMemParam*)
+{
+  HostDocumentImpl* document = app().documents().current();
+  if (!document) {
+    app().output().printLine("No document is open.");
+    return;
+  }
+  if (document->filePath().isEmpty()) {
+    app().output().printLine(OdString::formatted(
+        "%s was never saved and has no file yet; use SaveAsDocument to name one.", document->documentName()));
+    return;
+  }
+  if (writeDrawing(document, document->filePath()))
+    app().output().printLine(OdString::formatted("Saved %s.", document->filePath()));
+}
+
+// SaveAsDocument: the file name on the next input. A name without an
+// extension gets ".dxf"; DXF is the only format the host writes.
+void saveAsDocument(IMemParam* parameters)
+{
+  HostDocumentImpl* document = app().documents().current();
+  if (!document) {
+    app().output().printLine("No document is open.");
+    return;
+  }
+  OdString file;
+  if (!parameterOrInput(parameters, "FileName", "Save drawing as: ", true, file))
+    return;
+  file = unquoted(file);
+  if (file.isEmpty()) {
+    app().output().printLine("No file name given; nothing was saved.");
+    return;
+  }
+  QFileInfo info(file.qstring());
+  if (info.suffix().isEmpty())
+    info = QFileInfo(file.qstring() + QStringLiteral(".dxf"));
+  if (info.suffix().compare(QLatin1String("dxf"), Qt::CaseInsensitive) != 0) {
+    app().output().printLine(OdString::formatted(
+        "Cannot save as %s: Verdani writes drawings as DXF only; give the file the extension .dxf.", file));
+    return;
+  }
+  const OdString path(info.absoluteFilePath());
+  if (!writeDrawing(document, path))
+    return;
+  document->setFilePath(path, OdString(info.fileName()));
+  app().output().printLine(OdString::formatted("Saved %s.", path));
+}
+
 void exitHost(IMemParam*)
 {
   app().requestExit();
@@ -126,6 +191,8 @@ void registerAll()
   add("NewDocument", &newDocument);
   add("OpenDocument", &openDocument);
   add("CloseDocument", &closeDocument);
+  add("SaveDocument", &saveDocument);
+  add("SaveAsDocument", &saveAsDocument);
   add("Exit", &exitHost);
   add("SETDIR", &setDir);
   HostToolPalettes::registerCommands();

@@ -5,9 +5,16 @@
 #include "HostCommandLine.h"
 #include "HostOutput.h"
 
-HostDocumentImpl::HostDocumentImpl(HostApp& app, const OdString& name, const OdString& filePath)
-    : m_app(app), m_name(name), m_filePath(filePath)
+HostDocumentImpl::HostDocumentImpl(HostApp& app, const OdString& name, const OdString& filePath,
+                                   OdDbDatabasePtr database)
+    : m_app(app), m_name(name), m_filePath(filePath), m_database(std::move(database))
 {
+}
+
+void HostDocumentImpl::setFilePath(const OdString& filePath, const OdString& name)
+{
+  m_filePath = filePath;
+  m_name = name;
 }
 
 HostCommandOutput* HostDocumentImpl::commandOutput()

@@ -2,6 +2,8 @@
 // name and a file path, with the host's command line.
 #pragma once
 
+#include "OdDbDatabase.h"
+
 #include "HostServices.h"
 
 class HostApp;
@@ -10,7 +12,7 @@ class HostDocumentImpl : public HostDocument
 {
 public:
   // `filePath` is empty for a new document that was never saved.
-  HostDocumentImpl(HostApp& app, const OdString& name, const OdString& filePath);
+  HostDocumentImpl(HostApp& app, const OdString& name, const OdString& filePath, OdDbDatabasePtr database);
 
   HostCommandOutput* commandOutput() override;
   // "Drawing1.dxf" for a new one, the file's name for an opened one.
@@ -20,10 +22,13 @@ public:
   void sendCommand(const OdString& text) override;
   bool getString(const OdString& prompt, OdString& out, bool allowSpaces = false) override;
   // Locks nest; each lock needs its unlock.
+  OdDbDatabase* database() override { return m_database; }
   void lockDocument(const OdString& name) override;
   void unlockDocument() override;
 
   const OdString& filePath() const { return m_filePath; }
+  // After a save under another name: the document is that file now.
+  void setFilePath(const OdString& filePath, const OdString& name);
   bool isLocked() const { return m_lockDepth > 0; }
   const OdString& lockName() const { return m_lockName; }
 
@@ -31,6 +36,7 @@ private:
   HostApp& m_app;
   OdString m_name;
   OdString m_filePath;
+  OdDbDatabasePtr m_database;
   int m_lockDepth = 0;
   OdString m_lockName;
 };

@@ -1,6 +1,8 @@
 // Opening and closing documents.
 #include "HostDocumentManager.h"
 
+#include "OdDxf.h"
+
 #include <QFileInfo>
 
 #include <algorithm>
@@ -8,7 +10,8 @@
 HostDocumentImpl* HostDocumentManager::newDocument()
 {
   const OdString name = OdString::formatted("Drawing%d.dxf", ++m_newCount);
-  m_documents.push_back(std::make_unique<HostDocumentImpl>(m_app, name, OdString()));
+  OdDbDatabasePtr database = odDbCreateDatabase();
+  m_documents.push_back(std::make_unique<HostDocumentImpl>(m_app, name, OdString(), database));
   m_current = m_documents.back().get();
   return m_current;
 }
@@ -42,7 +45,14 @@ HostDocumentImpl* HostDocumentManager::openDocument(const OdString& filePath, Od
       return m_current;
     }
   }
-  m_documents.push_back(std::make_unique<HostDocumentImpl>(m_app, OdString(info.fileName()), path));
+  OdDbDatabasePtr database;
+  try {
+    database = odDxfReadFile(path);
+  } catch (const OdError& e) {
+    error = e.description();
+    return nullptr;
+  }
+  m_documents.push_back(std::make_unique<HostDocumentImpl>(m_app, OdString(info.fileName()), path, database));
   m_current = m_documents.back().get();
   return m_current;
 }

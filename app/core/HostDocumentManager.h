@@ -14,9 +14,9 @@ public:
   // A new empty document "DrawingN.dxf" (N counts up in a session), made
   // current.
   HostDocumentImpl* newDocument();
-  // A document for a file; made current. Until the host reads drawings the
-  // file is only checked: it must exist and must not be a .dwg file.
-  // Returns null with the reason in `error`.
+  // A document for a DXF drawing, read from its file; made current. A .dwg
+  // file, a missing one or one that is no readable DXF gives null with the
+  // reason in `error`.
   HostDocumentImpl* openDocument(const OdString& filePath, OdString& error);
   // Closes the document; the last one opened before it becomes current.
   bool closeDocument(HostDocumentImpl* document);

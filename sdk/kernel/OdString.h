@@ -121,7 +121,9 @@ private:
   {
     FormatArg a{FormatArg::kText, {}};
     using D = std::decay_t<T>;
-    if constexpr (std::is_same_v<D, OdString>) {
+    if constexpr (std::is_array_v<T>) {
+      return toArg(static_cast<const std::remove_extent_t<T>*>(v));
+    } else if constexpr (std::is_same_v<D, OdString>) {
       a.text = v.m_str;
     } else if constexpr (std::is_same_v<D, QString>) {
       a.text = v;
@@ -133,8 +135,6 @@ private:
       a.text = v ? QString::fromWCharArray(v) : QString();
     } else if constexpr (std::is_same_v<D, const char16_t*> || std::is_same_v<D, char16_t*>) {
       a.text = v ? QString::fromUtf16(v) : QString();
-    } else if constexpr (std::is_array_v<T>) {
-      return toArg(static_cast<const std::remove_extent_t<T>*>(v));
     } else if constexpr (std::is_same_v<D, bool>) {
       a.kind = FormatArg::kSigned; a.i = v ? 1 : 0; a.u = a.i;
     } else if constexpr (std::is_floating_point_v<D>) {

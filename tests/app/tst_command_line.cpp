@@ -289,14 +289,22 @@ TEST_F(AppCommandLine, documents_newOpenClose)
 {
   ASSERT_NE(app().documents().current(), nullptr);
   EXPECT_EQ(app().documents().current()->documentName(), OdString("Drawing1.dxf"));
-  EXPECT_EQ(app().documents().current()->database(), nullptr);
+  ASSERT_NE(app().documents().current()->database(), nullptr); // a new, empty drawing
   app().typeLine("NewDocument");
   EXPECT_EQ(app().services().currentDocument()->documentName(), OdString("Drawing2.dxf"));
 
   const QString file = m_home.path() + "/plan one.dxf";
   QFile f(file);
   ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+  f.write("  0\nSECTION\n  2\nENTITIES\n  0\nLINE\n  8\n0\n 10\n0\n 20\n0\n 11\n5\n 21\n5\n  0\nENDSEC\n  0\nEOF\n");
   f.close();
+  const QString garbage = m_home.path() + "/garbage.dxf";
+  QFile g(garbage);
+  ASSERT_TRUE(g.open(QIODevice::WriteOnly));
+  g.write("this is no drawing");
+  g.close();
+  app().typeLine("OpenDocument\n" + OdString(garbage));
+  EXPECT_NE(m_output.find("Cannot open the document"), std::string::npos) << m_output;
   // Commands read their input from what was typed after them.
   app().typeLine("OpenDocument\n" + OdString(file));
   EXPECT_EQ(app().services().currentDocument()->documentName(), OdString("plan one.dxf"));

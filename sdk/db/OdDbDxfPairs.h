@@ -1,0 +1,60 @@
+// Group-code pairs, the storage of every drawing object, and their text arena.
+#pragma once
+
+#include "OdString.h"
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+// One group code with its value as text. The text lives in a string arena
+// (or is a literal): pairs are cheap to copy and never own memory.
+struct OdDbDxfPair
+{
+  int code = 0;
+  std::string_view value;
+};
+using OdDbDxfPairArray = std::vector<OdDbDxfPair>;
+
+// Append-only storage for pair texts: the buffers of files read (adopted
+// whole, so that reading copies nothing) and texts set later.
+class OdDbStringArena
+{
+public:
+  std::string_view store(std::string_view text);
+  void adopt(std::shared_ptr<const std::string> buffer) { m_buffers.push_back(std::move(buffer)); }
+
+private:
+  std::vector<std::shared_ptr<const std::string>> m_buffers;
+  std::vector<std::unique_ptr<char[]>> m_chunks;
+  std::size_t m_used = 0;
+  std::size_t m_chunkSize = 0;
+};
+using OdDbStringArenaPtr = std::shared_ptr<OdDbStringArena>;
+
+// Conversions between pair texts and values. Numbers are written in their
+// shortest exact form, so that a value read and written again is the same
+// text, and a drawing written twice gives the same file.
+namespace OdDxf {
+enum ValueType { kString, kDouble, kInt16, kInt32, kInt64, kBool, kHandle, kBinary };
+// The value type of a group code, as the DXF reference assigns it.
+ValueType codeType(int code);
+// Handles that point at other objects (soft/hard pointers and owners).
+inline bool isHandleRef(int code)
+{
+  return (code >= 320 && code <= 369) || (code >= 390 && code <= 399) || code == 480 || code == 481 || code == 1005;
+}
+
+double toDouble(std::string_view text, double fallback = 0.0);
+long long toInt(std::string_view text, long long fallback = 0);
+std::string_view trim(std::string_view text);
+// Shortest text that reads back as the same double.
+std::string fromDouble(double value);
+std::string fromInt(long long value);
+OdString toOdString(std::string_view utf8);
+std::string fromOdString(const OdString& text);
+// Replaces \U+XXXX escapes by the characters they stand for.
+std::string decodeUnicodeEscapes(std::string_view text);
+} // namespace OdDxf

@@ -1,0 +1,139 @@
+// General entity properties kept in the AcDbEntity section.
+#include "OdDbEntity.h"
+#include "OdDbDatabase.h"
+#include "OdDbSymbolTable.h"
+
+#include "OdRxClass.h"
+
+ODRX_DEFINE_MEMBERS(OdDbEntity, OdDbObject, ODRX_CREATE_IMPL(OdDbEntity, OdDbEntity))
+ODRX_NO_CONS_DEFINE_MEMBERS(OdDbCurve, OdDbEntity)
+
+OdDbEntity::OdDbEntity()
+{
+  initData("ENTITY", {odPair(100, kSub), odPair(8, "0")});
+}
+
+OdCmColor OdDbEntity::color() const
+{
+  OdCmColor c;
+  c.setColorIndex(std::int16_t(getInt(kSub, 62, 256)));
+  const int rgb = findPair(kSub, 420);
+  if (rgb >= 0) {
+    const auto v = std::uint32_t(OdDxf::toInt(m_pairs[std::size_t(rgb)].value));
+    c.setRGB(std::uint8_t(v >> 16), std::uint8_t(v >> 8), std::uint8_t(v));
+    const int name = findPair(kSub, 430);
+    if (name >= 0)
+      c.setNamesFromDxf(OdDxf::toOdString(m_pairs[std::size_t(name)].value));
+  }
+  return c;
+}
+
+void OdDbEntity::setColor(const OdCmColor& c)
+{
+  removeCode(kSub, 420);
+  removeCode(kSub, 430);
+  // By layer is the default and is written as nothing at all.
+  if (c.isByLayer() && !c.isByColor()) {
+    removeCode(kSub, 62);
+    return;
+  }
+  setInt(kSub, 62, c.colorIndex());
+  if (c.isByColor()) {
+    const int at = findPair(kSub, 62) + 1;
+    m_pairs.insert(m_pairs.begin() + at, OdDbDxfPair{420, storeText(OdDxf::fromInt(c.rgb()))});
+    if (!c.colorName().isEmpty())
+      m_pairs.insert(m_pairs.begin() + at + 1, OdDbDxfPair{430, storeText(OdDxf::fromOdString(c.colorNameForDxf()))});
+  }
+}
+
+void OdDbEntity::setColorIndex(std::int16_t index)
+{
+  OdCmColor c;
+  c.setColorIndex(index);
+  setColor(c);
+}
+
+OdDbObjectId OdDbEntity::layerId() const
+{
+  OdDbDatabase* db = database();
+  if (!db)
+    return OdDbObjectId();
+  OdDbSymbolTablePtr t = db->getLayerTableId().openObject();
+  return t.isNull() ? OdDbObjectId() : t->getAt(layer());
+}
+
+void OdDbEntity::setLayer(OdDbObjectId id)
+{
+  OdDbSymbolTableRecordPtr r = OdDbSymbolTableRecord::cast(id.openObject());
+  if (r.get())
+    setLayer(r->getName());
+}
+
+// "ByLayer" is the default, kept as the absence of code 6.
+void OdDbEntity::setLinetype(const OdString& name)
+{
+  if (name.iCompare("ByLayer") == 0)
+    removeCode(kSub, 6);
+  else
+    setString(kSub, 6, name);
+}
+
+OdDbObjectId OdDbEntity::linetypeId() const
+{
+  OdDbDatabase* db = database();
+  if (!db)
+    return OdDbObjectId();
+  OdDbSymbolTablePtr t = db->getLinetypeTableId().openObject();
+  return t.isNull() ? OdDbObjectId() : t->getAt(linetype());
+}
+
+void OdDbEntity::setLinetype(OdDbObjectId id)
+{
+  OdDbSymbolTableRecordPtr r = OdDbSymbolTableRecord::cast(id.openObject());
+  if (r.get())
+    setLinetype(r->getName());
+}
+
+OdCmTransparency OdDbEntity::transparency() const
+{
+  OdCmTransparency t;
+  t.serializeIn(std::uint32_t(getInt(kSub, 440, 0)));
+  return t;
+}
+
+void OdDbEntity::setTransparency(const OdCmTransparency& t)
+{
+  if (t.isByLayer())
+    removeCode(kSub, 440);
+  else
+    setInt(kSub, 440, t.serializeOut());
+}
+
+void OdDbEntity::setPropertiesFrom(const OdDbEntity* other)
+{
+  if (!other)
+    return;
+  setColor(other->color());
+  setLayer(other->layer());
+  setLinetype(other->linetype());
+  setLinetypeScale(other->linetypeScale());
+  setLineWeight(other->lineWeight());
+  setTransparency(other->transparency());
+}
+
+void OdDbEntity::setDatabaseDefaults(OdDbDatabase* db)
+{
+  if (!db)
+    db = database();
+  if (!db)
+    return;
+  setColor(db->getCECOLOR());
+  setLayer(db->getHeaderString("$CLAYER", "0"));
+  setLinetype(db->getHeaderString("$CELTYPE", "ByLayer"));
+  const double s = db->getCELTSCALE();
+  if (s != 1.0)
+    setLinetypeScale(s);
+  if (db->getCELWEIGHT() != OdDb::kLnWtByLayer)
+    setLineWeight(db->getCELWEIGHT());
+  setTransparency(db->getCETRANSPARENCY());
+}

@@ -1,0 +1,138 @@
+// Layer records: colour sign for off, plot style through its dictionary.
+#include "OdDbLayerTableRecord.h"
+#include "OdDbDatabase.h"
+#include "OdDbDictionary.h"
+
+#include "OdRxClass.h"
+
+ODRX_DEFINE_MEMBERS(OdDbLayerTableRecord, OdDbSymbolTableRecord, ODRX_CREATE_IMPL(OdDbLayerTableRecord, OdDbLayerTableRecord))
+
+OdDbLayerTableRecord::OdDbLayerTableRecord()
+{
+  initRecord("LAYER", kSub, {odPair(2, ""), odPair(70, "0"), odPair(62, "7"), odPair(6, "Continuous"), odPair(370, "-3")});
+}
+
+OdCmColor OdDbLayerTableRecord::color() const
+{
+  OdCmColor c;
+  long long aci = getInt(kSub, 62, 7);
+  if (aci < -255 || aci > 256)
+    aci = 7; // nonsense from a damaged file
+  c.setColorIndex(std::int16_t(aci < 0 ? -aci : aci));
+  const int rgb = findPair(kSub, 420);
+  if (rgb >= 0) {
+    const auto v = std::uint32_t(OdDxf::toInt(m_pairs[std::size_t(rgb)].value));
+    c.setRGB(std::uint8_t(v >> 16), std::uint8_t(v >> 8), std::uint8_t(v));
+    const int name = findPair(kSub, 430);
+    if (name >= 0)
+      c.setNamesFromDxf(OdDxf::toOdString(m_pairs[std::size_t(name)].value));
+  }
+  return c;
+}
+
+void OdDbLayerTableRecord::setColor(const OdCmColor& c)
+{
+  const bool off = isOff();
+  removeCode(kSub, 420);
+  removeCode(kSub, 430);
+  // The sign of the index carries on/off, so the state survives a new colour.
+  int aci = c.colorIndex();
+  if (aci <= 0 || aci > 255)
+    aci = 7; // a layer has a real colour
+  setInt(kSub, 62, off ? -aci : aci);
+  if (c.isByColor()) {
+    const int at = findPair(kSub, 62) + 1;
+    m_pairs.insert(m_pairs.begin() + at, OdDbDxfPair{420, storeText(OdDxf::fromInt(c.rgb()))});
+    if (!c.colorName().isEmpty())
+      m_pairs.insert(m_pairs.begin() + at + 1, OdDbDxfPair{430, storeText(OdDxf::fromOdString(c.colorNameForDxf()))});
+  }
+}
+
+void OdDbLayerTableRecord::setIsOff(bool off)
+{
+  long long aci = getInt(kSub, 62, 7);
+  if (aci < 0)
+    aci = -aci;
+  if (aci == 0 || aci > 255)
+    aci = 7;
+  setInt(kSub, 62, off ? -aci : aci);
+}
+
+OdDbObjectId OdDbLayerTableRecord::linetypeObjectId() const
+{
+  OdDbDatabase* db = database();
+  if (!db)
+    return OdDbObjectId();
+  OdDbSymbolTablePtr t = db->getLinetypeTableId().openObject();
+  return t.isNull() ? OdDbObjectId() : t->getAt(linetypeName());
+}
+
+void OdDbLayerTableRecord::setLinetypeObjectId(OdDbObjectId id)
+{
+  OdDbSymbolTableRecordPtr r = OdDbSymbolTableRecord::cast(id.openObject());
+  if (r.get())
+    setString(kSub, 6, r->getName());
+}
+
+// Code 390 points at a placeholder object; its key in ACAD_PLOTSTYLENAME is
+// the name.
+OdString OdDbLayerTableRecord::plotStyleName() const
+{
+  OdDbDatabase* db = database();
+  const OdDbObjectId id = getId(kSub, 390);
+  if (!db || id.isNull())
+    return OdString();
+  OdDbDictionaryPtr dict = OdDbDictionary::cast(db->plotStyleNameDictionaryId().openObject());
+  return dict.isNull() ? OdString() : dict->nameAt(id);
+}
+
+OdResult OdDbLayerTableRecord::setPlotStyleName(const OdString& name)
+{
+  OdDbDatabase* db = database();
+  if (!db)
+    return eNullPtr;
+  OdDbDictionaryPtr dict = OdDbDictionary::cast(db->plotStyleNameDictionaryId(true).openObject(OdDb::kForWrite));
+  if (dict.isNull())
+    return eNullPtr;
+  OdDbObjectId id = dict->getAt(name);
+  if (id.isNull()) {
+    OdDbObjectPtr placeholder = OdDbObject::createObject();
+    placeholder->setDxfData("ACDBPLACEHOLDER", {}, nullptr);
+    id = dict->setAt(name, placeholder);
+  }
+  setId(kSub, 390, id);
+  return eOk;
+}
+
+// Layers have no code for transparency: drawing programs keep it as
+// extended data of "AcCmTransparency", and so do we.
+OdCmTransparency OdDbLayerTableRecord::transparency() const
+{
+  OdCmTransparency t;
+  for (const OdDbDxfPair& p : xData("AcCmTransparency"))
+    if (p.code == 1071)
+      t.serializeIn(std::uint32_t(OdDxf::toInt(p.value)));
+  return t;
+}
+
+void OdDbLayerTableRecord::setTransparency(const OdCmTransparency& t)
+{
+  if (t.isByLayer()) {
+    setXData("AcCmTransparency", {});
+    return;
+  }
+  const std::string v = OdDxf::fromInt(t.serializeOut());
+  setXData("AcCmTransparency", {OdDbDxfPair{1071, v}});
+}
+
+OdString OdDbLayerTableRecord::description() const
+{
+  const OdDbDxfPairArray x = xData("AcAecLayerStandard");
+  return x.size() >= 2 ? OdDxf::toOdString(x[1].value) : OdString();
+}
+
+void OdDbLayerTableRecord::setDescription(const OdString& text)
+{
+  const std::string v = OdDxf::fromOdString(text);
+  setXData("AcAecLayerStandard", text.isEmpty() ? OdDbDxfPairArray{} : OdDbDxfPairArray{{1000, ""}, {1000, v}});
+}
