@@ -168,6 +168,10 @@ void setDir(IMemParam* parameters)
     app().output().printLine(OdString::formatted("%s is now \"%s\".", HostApp::optionKeyName(key), value));
 }
 
+} // namespace
+
+namespace HostBuiltinCommands {
+
 void add(const char* name, HostCommandFn function)
 {
   HostCommand command;
@@ -178,9 +182,6 @@ void add(const char* name, HostCommandFn function)
   HostCommandTable::instance().add(command);
 }
 
-} // namespace
-
-namespace HostBuiltinCommands {
 
 void registerAll()
 {

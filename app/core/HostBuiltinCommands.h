@@ -3,6 +3,8 @@
 // and the two over the tool palettes module. More are added here.
 #pragma once
 
+#include "HostCommandTable.h"
+
 #include "OdString.h"
 
 class HostApp;
@@ -13,5 +15,8 @@ inline constexpr const char* kGroup = "VERDANI";
 
 // Registers the commands once per process; later calls do nothing.
 void registerAll();
+
+// Adds one host command to the group "VERDANI".
+void add(const char* name, HostCommandFn function);
 
 } // namespace HostBuiltinCommands

@@ -145,16 +145,6 @@ void toolPalettesSave(IMemParam*)
   out().printLine("Catalogs saved.");
 }
 
-void add(const char* name, HostCommandFn function)
-{
-  HostCommand command;
-  command.group = HostBuiltinCommands::kGroup;
-  command.localName = command.globalName = OdString(name);
-  command.kind = HostCommand::kHost;
-  command.host = std::move(function);
-  HostCommandTable::instance().add(command);
-}
-
 } // namespace
 
 namespace HostToolPalettes {
@@ -165,8 +155,8 @@ void registerCommands()
   if (done)
     return;
   done = true;
-  add("ToolPalettesList", &toolPalettesList);
-  add("ToolPalettesSave", &toolPalettesSave);
+  HostBuiltinCommands::add("ToolPalettesList", &toolPalettesList);
+  HostBuiltinCommands::add("ToolPalettesSave", &toolPalettesSave);
 }
 
 } // namespace HostToolPalettes
