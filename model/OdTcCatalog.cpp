@@ -272,6 +272,8 @@ bool OdTcCatalogImpl::save(const OdString& path)
   for (const auto& palette : m_palettes)
     if (palette->isModified() && !palette->isRemoved())
       savePalette(palette);
+  // Stubs name their files relative to where the catalog goes now.
+  m_path = path;
   for (const auto& palette : m_palettes) {
     if (palette->isRemoved())
       continue;
@@ -284,16 +286,13 @@ bool OdTcCatalogImpl::save(const OdString& path)
     if (palette->path().isEmpty())
       savePalette(palette);
     OdTcPaletteLoaderPtr loader = OdTcPaletteLoaderImpl::createNew();
-    auto* stub = static_cast<OdTcPaletteLoaderImpl*>(loader.get());
-    stub->setValue("Revision", OdVariant(palette->revision()));
-    stub->setValue("option", OdVariant(OdString::formatted("%d", palette->option())));
+    static_cast<OdTcPaletteLoaderImpl*>(loader.get())->setValue("Revision", OdVariant(palette->revision()));
+    loader->setOption(palette->option());
     loader->setId(palette->id());
     loader->shareProperties(palette->properties());
-    m_path = path; // the stub's path is relative to where the catalog goes
     loader->setHref(palette->href());
     m_loaders->add(loader);
   }
-  m_path = path;
   return writeTcFile(path, this, TcFileKind::Catalog);
 }
 
