@@ -3,6 +3,7 @@
 
 #include "TcModuleState.h"
 
+#include "OdTcCatalogItem.h"
 #include "OdTcPaletteManager.h"
 
 namespace tc {
@@ -28,7 +29,8 @@ void odtcInitReactor(OdTcCatalogItem* item)
   auto* tree = paletteSetView<ITcUiTreeView>(kITcUiTreeView);
   if (!tree || !item)
     return;
-  // Items take reactors once the catalog items are part of the module.
+  if (OdTcCatalogItemReactor* reactor = tree->catalogItemReactor())
+    item->addReactor(reactor);
 }
 
 void odtcUninitReactor(OdTcCatalogItem* item)
@@ -36,6 +38,8 @@ void odtcUninitReactor(OdTcCatalogItem* item)
   auto* tree = paletteSetView<ITcUiTreeView>(kITcUiTreeView);
   if (!tree || !item)
     return;
+  if (OdTcCatalogItemReactor* reactor = tree->catalogItemReactor())
+    item->removeReactor(reactor);
 }
 
 } // namespace tc

@@ -2,7 +2,9 @@
 // functions, initApp and uninitApp, the configuration reactor.
 #include "FakeHost.h"
 
+#include "OdTcCatalogImpl.h"
 #include "OdTcModule.h"
+#include "OdTcPaletteManager.h"
 #include "OdTcPersist.h"
 #include "TcCfgChangeReactor.h"
 #include "TcCmd.h"
@@ -178,4 +180,68 @@ TEST(TcCfgChangeReactorTest, optionChangeRefreshesCatalogsAndTouchesNoWindow)
   fakehost::changeOption("ToolPaletteDir");
   EXPECT_EQ(refreshed, 1);
   reactor->release();
+}
+
+namespace {
+
+// A palette set with a tree, standing in for the window of the desktop
+// host: enough for the exported functions that ask the window.
+struct FakeTree : ITcUiTreeView
+{
+  bool queryInterface(int, void**) override { return false; }
+  void loadTree() override {}
+  OdTcCatalogItem* selectedItem() override { return selected; }
+  OdTcCatalogItemReactor* catalogItemReactor() override { return &reactor; }
+  OdTcCatalogItem* selected = nullptr;
+  OdTcCatalogItemReactor reactor;
+};
+
+struct FakePaletteSet : ITcUiPaletteSet
+{
+  bool queryInterface(int type, void** out) override
+  {
+    if (type != kITcUiTreeView)
+      return false;
+    *out = static_cast<ITcUiTreeView*>(&tree);
+    return true;
+  }
+  void show(bool visible) override { shown = visible; }
+  bool isShown() const override { return shown; }
+  FakeTree tree;
+  bool shown = false;
+};
+
+} // namespace
+
+TEST_F(ModuleLife, exportsWithAWindow_reachTheTree_andTheToggleFollowsIt)
+{
+  m_module->initApp();
+  FakePaletteSet window;
+  paletteSet = &window;
+  OdTcCatalogPtr catalog = OdTcCatalogImpl::createNew();
+  window.tree.selected = catalog;
+  EXPECT_EQ(odtcGetSelectedItem(), catalog.get());
+  odtcInitReactor(catalog);
+  EXPECT_TRUE(catalog->removeReactor(&window.tree.reactor)); // it was added
+  odtcInitReactor(catalog);
+  odtcUninitReactor(catalog);
+  EXPECT_FALSE(catalog->removeReactor(&window.tree.reactor));
+
+  // The command hides and shows the window it finds, and keeps the start-up
+  // entry in step.
+  ICmdProcess* cmd = nullptr;
+  TcCmd::create(&cmd, nullptr);
+  paletteVisible = true;
+  EXPECT_EQ(cmd->getState(), 3);
+  cmd->run(nullptr);
+  EXPECT_FALSE(window.shown);
+  EXPECT_FALSE(odtcToolPaletteVisible());
+  EXPECT_EQ(fakehost::state().startup.count("ToolPalettes"), 0u);
+  EXPECT_EQ(cmd->getState(), 1);
+  cmd->run(nullptr); // as after the close button: shown again, entry again
+  EXPECT_TRUE(window.shown);
+  EXPECT_EQ(fakehost::state().startup.count("ToolPalettes"), 1u);
+  cmd->release();
+  paletteSet = nullptr;
+  paletteVisible = false;
 }
