@@ -11,12 +11,6 @@ ODRX_DEFINE_MEMBERS(OdDbBlockReference, OdDbEntity, ODRX_CREATE_IMPL(OdDbBlockRe
 ODRX_DEFINE_MEMBERS(OdDbDimension, OdDbEntity, ODRX_CREATE_IMPL(OdDbDimension, OdDbDimension))
 
 namespace {
-OdDbObjectId recordByName(const OdDbObject* o, OdDbObjectId tableId, const OdString& name)
-{
-  OdDbSymbolTablePtr t = tableId.openObject();
-  return t.isNull() ? OdDbObjectId() : t->getAt(name);
-}
-
 OdString recordName(OdDbObjectId id)
 {
   OdDbSymbolTableRecordPtr r = OdDbSymbolTableRecord::cast(id.openObject());
@@ -35,7 +29,7 @@ OdDbBlockReference::OdDbBlockReference()
 OdDbObjectId OdDbBlockReference::blockTableRecord() const
 {
   OdDbDatabase* db = database();
-  return db ? recordByName(this, db->getBlockTableId(), blockName()) : OdDbObjectId();
+  return db ? db->recordId(db->getBlockTableId(), blockName()) : OdDbObjectId();
 }
 
 void OdDbBlockReference::setBlockTableRecord(OdDbObjectId id)
@@ -101,7 +95,7 @@ OdDbDimension::OdDbDimension()
 OdDbObjectId OdDbDimension::dimBlockId() const
 {
   OdDbDatabase* db = database();
-  return db ? recordByName(this, db->getBlockTableId(), dimBlockName()) : OdDbObjectId();
+  return db ? db->recordId(db->getBlockTableId(), dimBlockName()) : OdDbObjectId();
 }
 
 void OdDbDimension::setDimBlockId(OdDbObjectId id) { setString(kSub, 2, recordName(id)); }
@@ -109,7 +103,7 @@ void OdDbDimension::setDimBlockId(OdDbObjectId id) { setString(kSub, 2, recordNa
 OdDbObjectId OdDbDimension::dimensionStyle() const
 {
   OdDbDatabase* db = database();
-  return db ? recordByName(this, db->getDimStyleTableId(), getString(kSub, 3, "Standard")) : OdDbObjectId();
+  return db ? db->recordId(db->getDimStyleTableId(), getString(kSub, 3, "Standard")) : OdDbObjectId();
 }
 
 void OdDbDimension::setDimensionStyle(OdDbObjectId id) { setString(kSub, 3, recordName(id)); }

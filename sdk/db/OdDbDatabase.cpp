@@ -141,12 +141,13 @@ void OdDbDatabase::setTableId(const std::string& name, OdDbObjectId id)
   m_tables[name] = id;
 }
 
-namespace {
-OdDbObjectId recordIn(OdDbObjectId tableId, const OdString& name)
+OdDbObjectId OdDbDatabase::recordId(OdDbObjectId tableId, const OdString& name) const
 {
   OdDbSymbolTablePtr t = OdDbSymbolTable::cast(tableId.openObject());
   return t.isNull() ? OdDbObjectId() : t->getAt(name);
 }
+
+namespace {
 
 OdString nameOf(OdDbObjectId id)
 {
@@ -155,15 +156,15 @@ OdString nameOf(OdDbObjectId id)
 }
 } // namespace
 
-OdDbObjectId OdDbDatabase::getModelSpaceId() const { return recordIn(getBlockTableId(), OdDbBlockTableRecord::modelSpaceStr()); }
-OdDbObjectId OdDbDatabase::getPaperSpaceId() const { return recordIn(getBlockTableId(), OdDbBlockTableRecord::paperSpaceStr()); }
-OdDbObjectId OdDbDatabase::getLayerZeroId() const { return recordIn(getLayerTableId(), "0"); }
-OdDbObjectId OdDbDatabase::getLinetypeByLayerId() const { return recordIn(getLinetypeTableId(), "ByLayer"); }
-OdDbObjectId OdDbDatabase::getLinetypeByBlockId() const { return recordIn(getLinetypeTableId(), "ByBlock"); }
-OdDbObjectId OdDbDatabase::getLinetypeContinuousId() const { return recordIn(getLinetypeTableId(), "Continuous"); }
-OdDbObjectId OdDbDatabase::getTextStyleStandardId() const { return recordIn(getTextStyleTableId(), "Standard"); }
-OdDbObjectId OdDbDatabase::getDimStyleStandardId() const { return recordIn(getDimStyleTableId(), "Standard"); }
-OdDbObjectId OdDbDatabase::getRegAppAcadId() const { return recordIn(getRegAppTableId(), "ACAD"); }
+OdDbObjectId OdDbDatabase::getModelSpaceId() const { return recordId(getBlockTableId(), OdDbBlockTableRecord::modelSpaceStr()); }
+OdDbObjectId OdDbDatabase::getPaperSpaceId() const { return recordId(getBlockTableId(), OdDbBlockTableRecord::paperSpaceStr()); }
+OdDbObjectId OdDbDatabase::getLayerZeroId() const { return recordId(getLayerTableId(), "0"); }
+OdDbObjectId OdDbDatabase::getLinetypeByLayerId() const { return recordId(getLinetypeTableId(), "ByLayer"); }
+OdDbObjectId OdDbDatabase::getLinetypeByBlockId() const { return recordId(getLinetypeTableId(), "ByBlock"); }
+OdDbObjectId OdDbDatabase::getLinetypeContinuousId() const { return recordId(getLinetypeTableId(), "Continuous"); }
+OdDbObjectId OdDbDatabase::getTextStyleStandardId() const { return recordId(getTextStyleTableId(), "Standard"); }
+OdDbObjectId OdDbDatabase::getDimStyleStandardId() const { return recordId(getDimStyleTableId(), "Standard"); }
+OdDbObjectId OdDbDatabase::getRegAppAcadId() const { return recordId(getRegAppTableId(), "ACAD"); }
 
 bool OdDbDatabase::newRegApp(const OdString& name)
 {
@@ -305,7 +306,7 @@ void OdDbDatabase::setHeaderPoint(const std::string& name, const OdGePoint3d& p)
 
 OdDbObjectId OdDbDatabase::getCLAYER() const
 {
-  const OdDbObjectId id = recordIn(getLayerTableId(), getHeaderString("$CLAYER", "0"));
+  const OdDbObjectId id = recordId(getLayerTableId(), getHeaderString("$CLAYER", "0"));
   return id.isNull() ? getLayerZeroId() : id;
 }
 void OdDbDatabase::setCLAYER(OdDbObjectId id) { setHeaderString("$CLAYER", 8, nameOf(id)); }
@@ -343,21 +344,21 @@ void OdDbDatabase::setCECOLOR(const OdCmColor& c)
 
 OdDbObjectId OdDbDatabase::getCELTYPE() const
 {
-  const OdDbObjectId id = recordIn(getLinetypeTableId(), getHeaderString("$CELTYPE", "ByLayer"));
+  const OdDbObjectId id = recordId(getLinetypeTableId(), getHeaderString("$CELTYPE", "ByLayer"));
   return id.isNull() ? getLinetypeByLayerId() : id;
 }
 void OdDbDatabase::setCELTYPE(OdDbObjectId id) { setHeaderString("$CELTYPE", 6, nameOf(id)); }
 
 OdDbObjectId OdDbDatabase::getTEXTSTYLE() const
 {
-  const OdDbObjectId id = recordIn(getTextStyleTableId(), getHeaderString("$TEXTSTYLE", "Standard"));
+  const OdDbObjectId id = recordId(getTextStyleTableId(), getHeaderString("$TEXTSTYLE", "Standard"));
   return id.isNull() ? getTextStyleStandardId() : id;
 }
 void OdDbDatabase::setTEXTSTYLE(OdDbObjectId id) { setHeaderString("$TEXTSTYLE", 7, nameOf(id)); }
 
 OdDbObjectId OdDbDatabase::getDIMSTYLE() const
 {
-  const OdDbObjectId id = recordIn(getDimStyleTableId(), getHeaderString("$DIMSTYLE", "Standard"));
+  const OdDbObjectId id = recordId(getDimStyleTableId(), getHeaderString("$DIMSTYLE", "Standard"));
   return id.isNull() ? getDimStyleStandardId() : id;
 }
 void OdDbDatabase::setDIMSTYLE(OdDbObjectId id) { setHeaderString("$DIMSTYLE", 2, nameOf(id)); }

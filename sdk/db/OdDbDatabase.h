@@ -57,6 +57,9 @@ public:
   OdDbObjectId getViewportTableId() const { return tableId("VPORT"); }
   OdDbObjectId getViewTableId() const { return tableId("VIEW"); }
   OdDbObjectId getUCSTableId() const { return tableId("UCS"); }
+  // The record of that name in a table (names compare ignoring case); null
+  // when the table or the record is missing.
+  OdDbObjectId recordId(OdDbObjectId tableId, const OdString& name) const;
   // A table by its DXF name ("LAYER"); null when the drawing has none.
   OdDbObjectId tableId(const std::string& dxfTableName) const;
   void setTableId(const std::string& dxfTableName, OdDbObjectId id);

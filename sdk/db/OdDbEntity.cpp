@@ -56,10 +56,7 @@ void OdDbEntity::setColorIndex(std::int16_t index)
 OdDbObjectId OdDbEntity::layerId() const
 {
   OdDbDatabase* db = database();
-  if (!db)
-    return OdDbObjectId();
-  OdDbSymbolTablePtr t = db->getLayerTableId().openObject();
-  return t.isNull() ? OdDbObjectId() : t->getAt(layer());
+  return db ? db->recordId(db->getLayerTableId(), layer()) : OdDbObjectId();
 }
 
 void OdDbEntity::setLayer(OdDbObjectId id)
@@ -81,10 +78,7 @@ void OdDbEntity::setLinetype(const OdString& name)
 OdDbObjectId OdDbEntity::linetypeId() const
 {
   OdDbDatabase* db = database();
-  if (!db)
-    return OdDbObjectId();
-  OdDbSymbolTablePtr t = db->getLinetypeTableId().openObject();
-  return t.isNull() ? OdDbObjectId() : t->getAt(linetype());
+  return db ? db->recordId(db->getLinetypeTableId(), linetype()) : OdDbObjectId();
 }
 
 void OdDbEntity::setLinetype(OdDbObjectId id)

@@ -61,10 +61,7 @@ void OdDbLayerTableRecord::setIsOff(bool off)
 OdDbObjectId OdDbLayerTableRecord::linetypeObjectId() const
 {
   OdDbDatabase* db = database();
-  if (!db)
-    return OdDbObjectId();
-  OdDbSymbolTablePtr t = db->getLinetypeTableId().openObject();
-  return t.isNull() ? OdDbObjectId() : t->getAt(linetypeName());
+  return db ? db->recordId(db->getLinetypeTableId(), linetypeName()) : OdDbObjectId();
 }
 
 void OdDbLayerTableRecord::setLinetypeObjectId(OdDbObjectId id)

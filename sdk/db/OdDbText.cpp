@@ -18,10 +18,7 @@ constexpr double kDeg = 180.0 / M_PI;
 OdDbObjectId styleByName(const OdDbObject* o, const OdString& name)
 {
   OdDbDatabase* db = o->database();
-  if (!db)
-    return OdDbObjectId();
-  OdDbSymbolTablePtr t = db->getTextStyleTableId().openObject();
-  return t.isNull() ? OdDbObjectId() : t->getAt(name);
+  return db ? db->recordId(db->getTextStyleTableId(), name) : OdDbObjectId();
 }
 
 OdString recordName(OdDbObjectId id)
