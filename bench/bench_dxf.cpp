@@ -1,9 +1,9 @@
 // Reads and writes a large generated drawing and prints megabytes per second.
-#include "OdDbBlockTableRecord.h"
-#include "OdDbCurves.h"
-#include "OdDbPolyline.h"
-#include "OdDbText.h"
-#include "OdDxf.h"
+#include "sdk/db/OdDbBlockTableRecord.h"
+#include "sdk/db/OdDbCurves.h"
+#include "sdk/db/OdDbPolyline.h"
+#include "sdk/db/OdDbText.h"
+#include "sdk/dxf/OdDxf.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,9 +1,9 @@
 // The lookups of the host by name, through the dynamic linker.
-#include "TcHost.h"
+#include "host/TcHost.h"
 
 #include <dlfcn.h>
 
-#include "HostLookup.h"
+#include "hostsdk/core/HostLookup.h"
 
 namespace tc {
 

@@ -2,9 +2,9 @@
 // line that user messages go to.
 #pragma once
 
-#include "AppInterfaces.h"
-#include "CmdInterfaces.h"
-#include "HostServices.h"
+#include "hostsdk/core/AppInterfaces.h"
+#include "hostsdk/core/CmdInterfaces.h"
+#include "hostsdk/core/HostServices.h"
 
 namespace tc {
 

@@ -1,5 +1,5 @@
 // Tool completion entries.
-#include "TcToolCompletion.h"
+#include "host/TcToolCompletion.h"
 
 #include <vector>
 

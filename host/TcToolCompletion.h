@@ -2,7 +2,7 @@
 // each tool of every catalog.
 #pragma once
 
-#include "HostEdCompletion.h"
+#include "hostsdk/core/HostEdCompletion.h"
 
 namespace tc {
 

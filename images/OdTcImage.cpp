@@ -1,7 +1,7 @@
 // Pictures of items: size classes and their XML attributes.
-#include "OdTcImage.h"
+#include "images/OdTcImage.h"
 
-#include "OdWcstol.h"
+#include "sdk/kernel/OdWcstol.h"
 
 namespace tc {
 

@@ -2,7 +2,7 @@
 // picture of the host's button resource.
 #pragma once
 
-#include "OdTcPersistImpl.h"
+#include "model/OdTcPersistImpl.h"
 
 namespace tc {
 

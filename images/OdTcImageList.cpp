@@ -1,7 +1,7 @@
 // The image list of an item.
-#include "OdTcImageList.h"
+#include "images/OdTcImageList.h"
 
-#include "OdWcstol.h"
+#include "sdk/kernel/OdWcstol.h"
 
 namespace tc {
 

@@ -1,8 +1,8 @@
 // OdTcImageList: one logical picture of an item, in several pixel sizes.
 #pragma once
 
-#include "OdTcEnum.h"
-#include "OdTcImage.h"
+#include "model/OdTcEnum.h"
+#include "images/OdTcImage.h"
 
 namespace tc {
 

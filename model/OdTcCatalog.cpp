@@ -1,13 +1,13 @@
 // The catalog: its file, its palettes and groups.
-#include "OdTcCatalogImpl.h"
+#include "model/OdTcCatalogImpl.h"
 
-#include "TcHost.h"
-#include "TcPathTokens.h"
-#include "TcFileIo.h"
+#include "host/TcHost.h"
+#include "persist/TcPathTokens.h"
+#include "persist/TcFileIo.h"
 
-#include "CXStringW.h"
-#include "HostCore.h"
-#include "OdRxSystemServices.h"
+#include "hostsdk/core/CXStringW.h"
+#include "hostsdk/core/HostCore.h"
+#include "sdk/kernel/OdRxSystemServices.h"
 
 #include <QDir>
 #include <QFile>

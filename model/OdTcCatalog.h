@@ -2,8 +2,8 @@
 // palettes, the groups and the order of its children.
 #pragma once
 
-#include "OdTcGroup.h"
-#include "OdTcToolPalette.h"
+#include "model/OdTcGroup.h"
+#include "model/OdTcToolPalette.h"
 
 namespace tc {
 

@@ -1,10 +1,10 @@
 // OdTcCatalogImpl: the implementation.
 #pragma once
 
-#include "OdTcCatalog.h"
-#include "OdTcCatalogItemImplBase.h"
-#include "OdTcGroupImpl.h"
-#include "OdTcToolPaletteImpl.h"
+#include "model/OdTcCatalog.h"
+#include "model/OdTcCatalogItemImplBase.h"
+#include "model/OdTcGroupImpl.h"
+#include "model/OdTcToolPaletteImpl.h"
 
 #include <vector>
 

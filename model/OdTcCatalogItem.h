@@ -3,9 +3,9 @@
 // palette inside a catalog.
 #pragma once
 
-#include "OdArray.h"
-#include "OdTcEnum.h"
-#include "OdTcPersist.h"
+#include "sdk/kernel/OdArray.h"
+#include "model/OdTcEnum.h"
+#include "model/OdTcPersist.h"
 
 #include <cstdint>
 

@@ -3,13 +3,13 @@
 // reactors.
 #pragma once
 
-#include "OdTcCatalogItem.h"
-#include "OdTcImageList.h"
-#include "OdTcOrderLists.h"
-#include "OdTcProperties.h"
+#include "model/OdTcCatalogItem.h"
+#include "images/OdTcImageList.h"
+#include "model/OdTcOrderLists.h"
+#include "model/OdTcProperties.h"
 
-#include "OdRxSystemServices.h"
-#include "OdWcstol.h"
+#include "sdk/kernel/OdRxSystemServices.h"
+#include "sdk/kernel/OdWcstol.h"
 
 #include <algorithm>
 #include <vector>

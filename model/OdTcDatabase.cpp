@@ -1,7 +1,7 @@
 // The palette database and its file.
-#include "OdTcDatabaseImpl.h"
+#include "model/OdTcDatabaseImpl.h"
 
-#include "TcFileIo.h"
+#include "persist/TcFileIo.h"
 
 namespace tc {
 

@@ -2,7 +2,7 @@
 // settings of a palette.
 #pragma once
 
-#include "OdTcCatalogItem.h"
+#include "model/OdTcCatalogItem.h"
 
 namespace tc {
 

@@ -1,10 +1,10 @@
 // OdTcDatabaseImpl: the implementation.
 #pragma once
 
-#include "OdTcCatalogItemImplBase.h"
-#include "OdTcDatabase.h"
-#include "OdTcLists.h"
-#include "OdTcPaletteUi.h"
+#include "model/OdTcCatalogItemImplBase.h"
+#include "model/OdTcDatabase.h"
+#include "model/OdTcLists.h"
+#include "model/OdTcPaletteUi.h"
 
 namespace tc {
 

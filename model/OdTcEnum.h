@@ -2,7 +2,7 @@
 // container itself, not a copy, and must not outlive it.
 #pragma once
 
-#include "OdRxObject.h"
+#include "sdk/kernel/OdRxObject.h"
 
 namespace tc {
 

@@ -1,11 +1,11 @@
 // Groups, palette references and palette stubs.
-#include "OdTcGroupImpl.h"
+#include "model/OdTcGroupImpl.h"
 
-#include "OdTcCatalog.h"
-#include "OdTcToolPaletteImpl.h"
-#include "TcPathTokens.h"
+#include "model/OdTcCatalog.h"
+#include "model/OdTcToolPaletteImpl.h"
+#include "persist/TcPathTokens.h"
 
-#include "HostCore.h"
+#include "hostsdk/core/HostCore.h"
 
 namespace tc {
 

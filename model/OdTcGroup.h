@@ -2,7 +2,7 @@
 // catalog.
 #pragma once
 
-#include "OdTcCatalogItem.h"
+#include "model/OdTcCatalogItem.h"
 
 namespace tc {
 

@@ -2,10 +2,10 @@
 // implementations.
 #pragma once
 
-#include "OdTcCatalogItemImplBase.h"
-#include "OdTcGroup.h"
-#include "OdTcLists.h"
-#include "OdTcPaletteSoftRef.h"
+#include "model/OdTcCatalogItemImplBase.h"
+#include "model/OdTcGroup.h"
+#include "model/OdTcLists.h"
+#include "model/OdTcPaletteSoftRef.h"
 
 namespace tc {
 

@@ -2,7 +2,7 @@
 // order; and the sub-interfaces of the concrete lists.
 #pragma once
 
-#include "OdTcCatalogItem.h"
+#include "model/OdTcCatalogItem.h"
 
 namespace tc {
 

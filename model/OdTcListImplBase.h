@@ -1,8 +1,8 @@
 // OdTcListImplBase<I>: a list over a vector of smart pointers to items.
 #pragma once
 
-#include "OdTcList.h"
-#include "OdTcPersistImpl.h"
+#include "model/OdTcList.h"
+#include "model/OdTcPersistImpl.h"
 
 #include <vector>
 

@@ -1,8 +1,8 @@
 // The item lists and order lists.
-#include "OdTcLists.h"
+#include "model/OdTcLists.h"
 
-#include "OdTcOrderLists.h"
-#include "OdTcPaletteSoftRef.h"
+#include "model/OdTcOrderLists.h"
+#include "model/OdTcPaletteSoftRef.h"
 
 namespace tc {
 

@@ -2,7 +2,7 @@
 // they take and in how they write.
 #pragma once
 
-#include "OdTcListImplBase.h"
+#include "model/OdTcListImplBase.h"
 
 namespace tc {
 

@@ -2,9 +2,9 @@
 // hold no references, so they may name missing items and miss present ones.
 #pragma once
 
-#include "OdTcPersistImpl.h"
+#include "model/OdTcPersistImpl.h"
 
-#include "OdArray.h"
+#include "sdk/kernel/OdArray.h"
 
 namespace tc {
 

@@ -2,7 +2,7 @@
 // the palette's identifier.
 #pragma once
 
-#include "OdTcCatalogItem.h"
+#include "model/OdTcCatalogItem.h"
 
 namespace tc {
 

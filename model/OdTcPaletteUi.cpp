@@ -1,7 +1,7 @@
 // The "PaletteUI" records.
-#include "OdTcPaletteUi.h"
+#include "model/OdTcPaletteUi.h"
 
-#include "OdWcstol.h"
+#include "sdk/kernel/OdWcstol.h"
 
 namespace tc {
 

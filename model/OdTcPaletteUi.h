@@ -2,8 +2,8 @@
 // and their order.
 #pragma once
 
-#include "OdTcOrderLists.h"
-#include "OdTcPersistImpl.h"
+#include "model/OdTcOrderLists.h"
+#include "model/OdTcPersistImpl.h"
 
 namespace tc {
 

@@ -1,11 +1,11 @@
 // Class machinery of OdTcPersist, and the registration of objects with the
 // container they are read into.
-#include "OdTcCatalog.h"
-#include "OdTcContainerHooks.h"
-#include "OdTcDatabase.h"
-#include "OdTcPersist.h"
+#include "model/OdTcCatalog.h"
+#include "model/OdTcContainerHooks.h"
+#include "model/OdTcDatabase.h"
+#include "model/OdTcPersist.h"
 
-#include "OdRxClass.h"
+#include "sdk/kernel/OdRxClass.h"
 
 namespace tc {
 

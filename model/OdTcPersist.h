@@ -2,8 +2,8 @@
 // gives an object a parent link, an element name, a reader and a writer.
 #pragma once
 
-#include "OdRxObject.h"
-#include "OdVariant.h"
+#include "sdk/kernel/OdRxObject.h"
+#include "sdk/kernel/OdVariant.h"
 
 namespace tc {
 

@@ -2,9 +2,9 @@
 // interface I derived from it.
 #pragma once
 
-#include "OdTcContainerHooks.h"
-#include "OdTcFiler.h"
-#include "OdTcPersist.h"
+#include "model/OdTcContainerHooks.h"
+#include "persist/OdTcFiler.h"
+#include "model/OdTcPersist.h"
 
 namespace tc {
 

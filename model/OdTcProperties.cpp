@@ -1,10 +1,10 @@
 // The display record of catalog items, and the record of a property value.
-#include "OdTcProperties.h"
+#include "model/OdTcProperties.h"
 
-#include "OdTcImageList.h"
+#include "images/OdTcImageList.h"
 
-#include "OdTimeStamp.h"
-#include "OdWcstol.h"
+#include "sdk/kernel/OdTimeStamp.h"
+#include "sdk/kernel/OdWcstol.h"
 
 #include <ctime>
 

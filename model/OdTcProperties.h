@@ -2,7 +2,7 @@
 // description, dates, resource name and pictures.
 #pragma once
 
-#include "OdTcPersistImpl.h"
+#include "model/OdTcPersistImpl.h"
 
 namespace tc {
 

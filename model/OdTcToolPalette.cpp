@@ -1,11 +1,11 @@
 // The tool palette item.
-#include "OdTcToolPaletteImpl.h"
+#include "model/OdTcToolPaletteImpl.h"
 
-#include "OdTcCatalog.h"
-#include "OdTcPalettePropertiesFilerImpl.h"
-#include "TcPathTokens.h"
+#include "model/OdTcCatalog.h"
+#include "persist/OdTcPalettePropertiesFilerImpl.h"
+#include "persist/TcPathTokens.h"
 
-#include "OdRxSystemServices.h"
+#include "sdk/kernel/OdRxSystemServices.h"
 
 namespace tc {
 

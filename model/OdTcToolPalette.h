@@ -2,7 +2,7 @@
 // database, where the tools, the name and the display settings live.
 #pragma once
 
-#include "OdTcDatabase.h"
+#include "model/OdTcDatabase.h"
 
 namespace tc {
 

@@ -1,8 +1,8 @@
 // OdTcToolPaletteImpl: the implementation.
 #pragma once
 
-#include "OdTcDatabaseImpl.h"
-#include "OdTcToolPalette.h"
+#include "model/OdTcDatabaseImpl.h"
+#include "model/OdTcToolPalette.h"
 
 namespace tc {
 

@@ -1,7 +1,7 @@
 // Folder trees and catchers.
-#include "OdTcFileSystemItem.h"
+#include "module/OdTcFileSystemItem.h"
 
-#include "CXStringW.h"
+#include "hostsdk/core/CXStringW.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -2,7 +2,7 @@
 // out of it by name.
 #pragma once
 
-#include "OdString.h"
+#include "sdk/kernel/OdString.h"
 
 #include <cstdint>
 #include <memory>

@@ -1,12 +1,12 @@
 // Start and stop of the module.
-#include "OdTcModule.h"
+#include "module/OdTcModule.h"
 
-#include "OdTcPaletteManagerImpl.h"
+#include "module/OdTcPaletteManagerImpl.h"
 
-#include "TcClassTable.h"
-#include "TcHost.h"
-#include "TcModuleState.h"
-#include "TcToolCompletion.h"
+#include "module/TcClassTable.h"
+#include "host/TcHost.h"
+#include "module/TcModuleState.h"
+#include "host/TcToolCompletion.h"
 
 #include <dlfcn.h>
 

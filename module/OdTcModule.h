@@ -1,7 +1,7 @@
 // OdTcModule: the module object that the host's module loader drives.
 #pragma once
 
-#include "OdRxModule.h"
+#include "sdk/kernel/OdRxModule.h"
 
 namespace tc {
 

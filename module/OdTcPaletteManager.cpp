@@ -1,13 +1,13 @@
 // The palette manager.
-#include "OdTcPaletteManagerImpl.h"
+#include "module/OdTcPaletteManagerImpl.h"
 
-#include "TcCfgChangeReactor.h"
-#include "TcHost.h"
-#include "TcModuleState.h"
+#include "module/TcCfgChangeReactor.h"
+#include "host/TcHost.h"
+#include "module/TcModuleState.h"
 
-#include "CXStringW.h"
-#include "HostCore.h"
-#include "OdRxSystemServices.h"
+#include "hostsdk/core/CXStringW.h"
+#include "hostsdk/core/HostCore.h"
+#include "sdk/kernel/OdRxSystemServices.h"
 
 #include <QDir>
 #include <QFile>

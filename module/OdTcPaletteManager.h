@@ -3,7 +3,7 @@
 // coming and going.
 #pragma once
 
-#include "OdTcCatalog.h"
+#include "model/OdTcCatalog.h"
 
 namespace tc {
 

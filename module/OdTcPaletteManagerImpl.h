@@ -1,8 +1,8 @@
 // OdTcPaletteManagerImpl: the palette manager's one implementation.
 #pragma once
 
-#include "OdTcCatalogImpl.h"
-#include "OdTcPaletteManager.h"
+#include "model/OdTcCatalogImpl.h"
+#include "module/OdTcPaletteManager.h"
 
 #include <map>
 #include <vector>

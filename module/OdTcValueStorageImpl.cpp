@@ -1,10 +1,10 @@
 // Catalog locations and the shared tables.
-#include "OdTcValueStorageImpl.h"
+#include "module/OdTcValueStorageImpl.h"
 
-#include "OdTcFileSystemItem.h"
-#include "TcHost.h"
+#include "module/OdTcFileSystemItem.h"
+#include "host/TcHost.h"
 
-#include "HostCore.h"
+#include "hostsdk/core/HostCore.h"
 
 #include <QStandardPaths>
 #include <QStringList>

@@ -2,7 +2,7 @@
 // few fixed tables that several parts of the module share.
 #pragma once
 
-#include "OdTcPersistImpl.h"
+#include "model/OdTcPersistImpl.h"
 
 #include <map>
 #include <utility>

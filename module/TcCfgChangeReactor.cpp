@@ -1,8 +1,8 @@
 // The configuration reactor.
-#include "TcCfgChangeReactor.h"
+#include "module/TcCfgChangeReactor.h"
 
-#include "TcHost.h"
-#include "TcModuleState.h"
+#include "host/TcHost.h"
+#include "module/TcModuleState.h"
 
 namespace tc {
 

@@ -2,7 +2,7 @@
 // moved the catalog folders, and refreshes the catalogs.
 #pragma once
 
-#include "AppInterfaces.h"
+#include "hostsdk/core/AppInterfaces.h"
 
 #include <functional>
 

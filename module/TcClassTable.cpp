@@ -1,15 +1,15 @@
 // The class table. Each class of the catalog model takes its row here when
 // it comes into the module.
-#include "TcClassTable.h"
+#include "module/TcClassTable.h"
 
-#include "OdTcCatalogImpl.h"
-#include "OdTcCatalogItem.h"
-#include "OdTcPaletteManager.h"
-#include "OdTcImageList.h"
-#include "OdTcList.h"
-#include "OdTcOrderLists.h"
-#include "OdTcPaletteSoftRef.h"
-#include "OdTcProperties.h"
+#include "model/OdTcCatalogImpl.h"
+#include "model/OdTcCatalogItem.h"
+#include "module/OdTcPaletteManager.h"
+#include "images/OdTcImageList.h"
+#include "model/OdTcList.h"
+#include "model/OdTcOrderLists.h"
+#include "model/OdTcPaletteSoftRef.h"
+#include "model/OdTcProperties.h"
 
 namespace tc {
 

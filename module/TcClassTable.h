@@ -2,7 +2,7 @@
 // deleted by uninitApp in another.
 #pragma once
 
-#include "OdRxClass.h"
+#include "sdk/kernel/OdRxClass.h"
 
 #include <vector>
 

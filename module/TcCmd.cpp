@@ -1,12 +1,12 @@
 // The "ToolPalettes" command: the first run makes the window, later runs
 // hide or show it; the "Startup" list remembers the choice between runs.
-#include "TcCmd.h"
+#include "module/TcCmd.h"
 
-#include "TcHost.h"
-#include "TcModuleState.h"
-#include "TcStartupList.h"
+#include "host/TcHost.h"
+#include "module/TcModuleState.h"
+#include "module/TcStartupList.h"
 
-#include "HostCore.h"
+#include "hostsdk/core/HostCore.h"
 
 namespace tc {
 

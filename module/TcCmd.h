@@ -1,7 +1,7 @@
 // TcCmd: the command "ToolPalettes", a toggle of the palette set window.
 #pragma once
 
-#include "CmdInterfaces.h"
+#include "hostsdk/core/CmdInterfaces.h"
 
 namespace tc {
 

@@ -1,10 +1,10 @@
 // The exported functions for other modules.
-#include "TcExports.h"
+#include "module/TcExports.h"
 
-#include "TcModuleState.h"
+#include "module/TcModuleState.h"
 
-#include "OdTcCatalogItem.h"
-#include "OdTcPaletteManager.h"
+#include "model/OdTcCatalogItem.h"
+#include "module/OdTcPaletteManager.h"
 
 namespace tc {
 

@@ -1,10 +1,10 @@
 // The library's entry: what happens while it loads and unloads, and the two
 // functions that the host's module loader calls.
-#include "OdTcModule.h"
-#include "TcCmd.h"
-#include "TcExecuteTool.h"
-#include "TcHost.h"
-#include "TcModuleState.h"
+#include "module/OdTcModule.h"
+#include "module/TcCmd.h"
+#include "tools/TcExecuteTool.h"
+#include "host/TcHost.h"
+#include "module/TcModuleState.h"
 
 #include <QEvent>
 

@@ -1,7 +1,7 @@
 // The module-wide state.
-#include "TcModuleState.h"
+#include "module/TcModuleState.h"
 
-#include "OdTcPaletteManager.h"
+#include "module/OdTcPaletteManager.h"
 
 namespace tc {
 

@@ -2,8 +2,8 @@
 // command "ToolPalettes".
 #pragma once
 
-#include "OdTcValueStorageImpl.h"
-#include "TcUiInterfaces.h"
+#include "module/OdTcValueStorageImpl.h"
+#include "module/TcUiInterfaces.h"
 
 class OdRxModule;
 class QWidget;

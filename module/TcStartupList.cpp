@@ -1,7 +1,7 @@
 // The entry "ToolPalettes" in the host's "Startup" folder.
-#include "TcStartupList.h"
+#include "module/TcStartupList.h"
 
-#include "TcHost.h"
+#include "host/TcHost.h"
 
 namespace tc {
 

@@ -1,5 +1,5 @@
 // The catalog filer.
-#include "OdTcCatalogFilerImpl.h"
+#include "persist/OdTcCatalogFilerImpl.h"
 
 namespace tc {
 

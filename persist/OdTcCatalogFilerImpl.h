@@ -1,7 +1,7 @@
 // The filer of catalog files: root element "Catalog".
 #pragma once
 
-#include "OdTcFilerImplBase.h"
+#include "persist/OdTcFilerImplBase.h"
 
 namespace tc {
 

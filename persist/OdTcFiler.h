@@ -2,9 +2,9 @@
 // read named values from it and write elements through it.
 #pragma once
 
-#include "OdRxObject.h"
-#include "OdStreamBuf.h"
-#include "OdVariant.h"
+#include "sdk/kernel/OdRxObject.h"
+#include "sdk/kernel/OdStreamBuf.h"
+#include "sdk/kernel/OdVariant.h"
 
 #include <map>
 

@@ -1,7 +1,7 @@
 // The shared reading and writing of the filers.
-#include "OdTcFilerImplBase.h"
+#include "persist/OdTcFilerImplBase.h"
 
-#include "OdTcTagTable.h"
+#include "persist/OdTcTagTable.h"
 
 #include <cstring>
 #include <mutex>

@@ -2,8 +2,8 @@
 // document, the element cursor, the stack of objects and the writers.
 #pragma once
 
-#include "OdTcFiler.h"
-#include "OdTcPersist.h"
+#include "persist/OdTcFiler.h"
+#include "model/OdTcPersist.h"
 
 #include <tinyxml.h>
 

@@ -1,7 +1,7 @@
 // The palette filer.
-#include "OdTcPalettePropertiesFilerImpl.h"
+#include "persist/OdTcPalettePropertiesFilerImpl.h"
 
-#include "HostCore.h"
+#include "hostsdk/core/HostCore.h"
 
 #include <algorithm>
 

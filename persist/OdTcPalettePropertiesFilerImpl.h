@@ -2,7 +2,7 @@
 // programs a second part after "PaletteContent".
 #pragma once
 
-#include "OdTcFilerImplBase.h"
+#include "persist/OdTcFilerImplBase.h"
 
 namespace tc {
 

@@ -1,12 +1,12 @@
 // The process-wide tag table.
-#include "OdTcFiler.h"
-#include "OdTcTagTable.h"
+#include "persist/OdTcFiler.h"
+#include "persist/OdTcTagTable.h"
 
-#include "OdTcCatalogImpl.h"
-#include "OdTcImageList.h"
-#include "OdTcLists.h"
-#include "OdTcOrderLists.h"
-#include "OdTcProperties.h"
+#include "model/OdTcCatalogImpl.h"
+#include "images/OdTcImageList.h"
+#include "model/OdTcLists.h"
+#include "model/OdTcOrderLists.h"
+#include "model/OdTcProperties.h"
 
 namespace tc {
 

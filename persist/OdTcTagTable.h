@@ -1,7 +1,7 @@
 // The tag table: which class the filers make from an element name.
 #pragma once
 
-#include "OdTcPersist.h"
+#include "model/OdTcPersist.h"
 
 namespace tc {
 

@@ -1,11 +1,11 @@
 // Whole-file reads and writes.
-#include "TcFileIo.h"
+#include "persist/TcFileIo.h"
 
-#include "OdTcCatalogFilerImpl.h"
-#include "OdTcPalettePropertiesFilerImpl.h"
-#include "TcSafeFile.h"
+#include "persist/OdTcCatalogFilerImpl.h"
+#include "persist/OdTcPalettePropertiesFilerImpl.h"
+#include "persist/TcSafeFile.h"
 
-#include "OdRxSystemServices.h"
+#include "sdk/kernel/OdRxSystemServices.h"
 
 namespace tc {
 

@@ -1,7 +1,7 @@
 // Reading and writing a whole catalog or palette file through its filer.
 #pragma once
 
-#include "OdTcPersist.h"
+#include "model/OdTcPersist.h"
 
 namespace tc {
 

@@ -1,7 +1,7 @@
 // The path rules.
-#include "TcPathTokens.h"
+#include "persist/TcPathTokens.h"
 
-#include "TcHost.h"
+#include "host/TcHost.h"
 
 #include <QStringList>
 

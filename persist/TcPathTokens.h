@@ -3,8 +3,8 @@
 // text rules on "/"; text read from files has its "\" turned into "/" first.
 #pragma once
 
-#include "OdArray.h"
-#include "OdString.h"
+#include "sdk/kernel/OdArray.h"
+#include "sdk/kernel/OdString.h"
 
 #include <map>
 

@@ -1,7 +1,7 @@
 // Atomic replacement of a file by rename.
-#include "TcSafeFile.h"
+#include "persist/TcSafeFile.h"
 
-#include "OdRxSystemServices.h"
+#include "sdk/kernel/OdRxSystemServices.h"
 
 #include <QFile>
 #include <QFileInfo>

@@ -3,7 +3,7 @@
 // when everything was written.
 #pragma once
 
-#include "OdStreamBuf.h"
+#include "sdk/kernel/OdStreamBuf.h"
 
 namespace tc {
 

@@ -1,5 +1,5 @@
 // The execute step of a tool run.
-#include "TcExecuteTool.h"
+#include "tools/TcExecuteTool.h"
 
 namespace tc {
 

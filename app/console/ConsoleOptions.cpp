@@ -1,7 +1,7 @@
 // Reading the options of the console program.
-#include "ConsoleOptions.h"
+#include "app/console/ConsoleOptions.h"
 
-#include "HostApp.h"
+#include "app/core/HostApp.h"
 
 bool ConsoleOptions::parse(const std::vector<OdString>& arguments, OdString& error)
 {

@@ -2,7 +2,7 @@
 //   verdani-console [--set KEY=VALUE]... [--script FILE] [DRAWING]
 #pragma once
 
-#include "OdString.h"
+#include "sdk/kernel/OdString.h"
 
 #include <vector>
 

@@ -1,9 +1,9 @@
 // verdani-console: the reference host without a window, driven by a script
 // or by standard input.
-#include "ConsoleOptions.h"
-#include "HostApp.h"
-#include "HostCommandLine.h"
-#include "HostOutput.h"
+#include "app/console/ConsoleOptions.h"
+#include "app/core/HostApp.h"
+#include "app/core/HostCommandLine.h"
+#include "app/core/HostOutput.h"
 
 #include <QCoreApplication>
 

@@ -4,8 +4,8 @@
 // down and started again (as a restart of the program would).
 #pragma once
 
-#include "AppInterfaces.h"
-#include "HostOutput.h"
+#include "hostsdk/core/AppInterfaces.h"
+#include "app/core/HostOutput.h"
 
 #include <iosfwd>
 #include <memory>

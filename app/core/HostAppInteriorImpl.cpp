@@ -1,7 +1,7 @@
 // The user data folder.
-#include "HostAppInteriorImpl.h"
+#include "app/core/HostAppInteriorImpl.h"
 
-#include "HostPaths.h"
+#include "app/core/HostPaths.h"
 
 CXStringW HostAppInteriorImpl::userDataFolder()
 {

@@ -1,7 +1,7 @@
 // IAppInterior of the reference host: its user data folder.
 #pragma once
 
-#include "AppInterfaces.h"
+#include "hostsdk/core/AppInterfaces.h"
 
 class HostAppInteriorImpl : public CRkUnknownImpl<IAppInterior>
 {

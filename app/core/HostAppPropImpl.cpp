@@ -1,5 +1,5 @@
 // Reactors of the host's options.
-#include "HostAppPropImpl.h"
+#include "app/core/HostAppPropImpl.h"
 
 #include <algorithm>
 #include <exception>

@@ -2,7 +2,7 @@
 // host's options.
 #pragma once
 
-#include "AppInterfaces.h"
+#include "hostsdk/core/AppInterfaces.h"
 
 #include <vector>
 

@@ -1,15 +1,15 @@
 // NewDocument, OpenDocument, CloseDocument, SaveDocument, SaveAsDocument,
 // Exit and SETDIR.
-#include "HostBuiltinCommands.h"
+#include "app/core/HostBuiltinCommands.h"
 
-#include "HostApp.h"
-#include "HostCommandLine.h"
-#include "HostCommandTable.h"
-#include "HostDocumentManager.h"
-#include "HostOutput.h"
-#include "HostToolPalettes.h"
+#include "app/core/HostApp.h"
+#include "app/core/HostCommandLine.h"
+#include "app/core/HostCommandTable.h"
+#include "app/core/HostDocumentManager.h"
+#include "app/core/HostOutput.h"
+#include "app/core/HostToolPalettes.h"
 
-#include "OdDxf.h"
+#include "sdk/dxf/OdDxf.h"
 
 #include <QFileInfo>
 

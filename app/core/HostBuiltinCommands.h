@@ -3,9 +3,9 @@
 // and the two over the tool palettes module. More are added here.
 #pragma once
 
-#include "HostCommandTable.h"
+#include "app/core/HostCommandTable.h"
 
-#include "OdString.h"
+#include "sdk/kernel/OdString.h"
 
 class HostApp;
 

@@ -1,8 +1,8 @@
 // Registration of commands by modules.
-#include "HostCmdFactoryImpl.h"
+#include "app/core/HostCmdFactoryImpl.h"
 
-#include "HostApp.h"
-#include "HostCommandLine.h"
+#include "app/core/HostApp.h"
+#include "app/core/HostCommandLine.h"
 
 bool HostCmdFactoryImpl::registerCommandClass(const char* name, CmdCreatorFn creator, const OdString& group, int,
                                               int, int)

@@ -2,7 +2,7 @@
 // and find commands to run by name.
 #pragma once
 
-#include "HostCommandTable.h"
+#include "app/core/HostCommandTable.h"
 
 class HostCmdFactoryImpl : public CRkUnknownImpl<ICmdFactory>
 {

@@ -1,9 +1,9 @@
 // The command processor.
-#include "HostCommandLine.h"
+#include "app/core/HostCommandLine.h"
 
-#include "HostApp.h"
-#include "HostEditorEventsImpl.h"
-#include "HostOutput.h"
+#include "app/core/HostApp.h"
+#include "app/core/HostEditorEventsImpl.h"
+#include "app/core/HostOutput.h"
 
 #include <exception>
 

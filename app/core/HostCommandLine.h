@@ -3,8 +3,8 @@
 // editor reactors how each command went.
 #pragma once
 
-#include "HostCommandTable.h"
-#include "HostInputQueue.h"
+#include "app/core/HostCommandTable.h"
+#include "app/core/HostInputQueue.h"
 
 #include <functional>
 #include <vector>

@@ -1,5 +1,5 @@
 // The table of commands.
-#include "HostCommandTable.h"
+#include "app/core/HostCommandTable.h"
 
 #include <algorithm>
 

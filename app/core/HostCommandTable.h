@@ -3,7 +3,7 @@
 // loads, once, and the library stays mapped across restarts of the host.
 #pragma once
 
-#include "CmdInterfaces.h"
+#include "hostsdk/core/CmdInterfaces.h"
 
 #include <functional>
 #include <memory>

@@ -1,5 +1,5 @@
 // Completion providers.
-#include "HostCompletionRegistryImpl.h"
+#include "app/core/HostCompletionRegistryImpl.h"
 
 #include <algorithm>
 

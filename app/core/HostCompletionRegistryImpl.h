@@ -1,7 +1,7 @@
 // The command-line completion registry: providers of entries by key.
 #pragma once
 
-#include "HostEdCompletion.h"
+#include "hostsdk/core/HostEdCompletion.h"
 
 #include <vector>
 

@@ -9,7 +9,7 @@
 // Types: empty, bool, int32, int64, double, string (narrow), wstring (wide).
 // A text with characters that XML cannot carry is stored as base64 of its
 // UTF-8 form, marked encoding="base64".
-#include "HostConfig.h"
+#include "app/core/HostConfig.h"
 
 #include <QDir>
 #include <QFile>

@@ -2,7 +2,7 @@
 // change by replacing the file atomically.
 #pragma once
 
-#include "HostConfigNode.h"
+#include "app/core/HostConfigNode.h"
 
 #include <QString>
 

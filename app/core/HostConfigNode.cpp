@@ -1,7 +1,7 @@
 // The folders of the configuration tree.
-#include "HostConfigNode.h"
+#include "app/core/HostConfigNode.h"
 
-#include "HostConfig.h"
+#include "app/core/HostConfig.h"
 
 #include <algorithm>
 

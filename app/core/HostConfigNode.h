@@ -2,7 +2,7 @@
 // sub-folders, handed to modules as IConfigManager.
 #pragma once
 
-#include "AppInterfaces.h"
+#include "hostsdk/core/AppInterfaces.h"
 
 #include <string>
 #include <vector>

@@ -1,5 +1,5 @@
 // Configuration values as objects.
-#include "HostConfigParam.h"
+#include "app/core/HostConfigParam.h"
 
 HostConfigParam::HostConfigParam(HostConfigNode* folder, std::string name) : m_folder(folder), m_name(std::move(name))
 {

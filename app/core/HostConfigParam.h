@@ -1,7 +1,7 @@
 // One named value of a configuration folder, as an object (IConfigParam).
 #pragma once
 
-#include "HostConfigNode.h"
+#include "app/core/HostConfigNode.h"
 
 class HostConfigParam : public CRkUnknownImpl<IConfigParam>
 {

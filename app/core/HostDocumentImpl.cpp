@@ -1,9 +1,9 @@
 // Documents.
-#include "HostDocumentImpl.h"
+#include "app/core/HostDocumentImpl.h"
 
-#include "HostApp.h"
-#include "HostCommandLine.h"
-#include "HostOutput.h"
+#include "app/core/HostApp.h"
+#include "app/core/HostCommandLine.h"
+#include "app/core/HostOutput.h"
 
 HostDocumentImpl::HostDocumentImpl(HostApp& app, const OdString& name, const OdString& filePath,
                                    OdDbDatabasePtr database)

@@ -2,9 +2,9 @@
 // name and a file path, with the host's command line.
 #pragma once
 
-#include "OdDbDatabase.h"
+#include "sdk/db/OdDbDatabase.h"
 
-#include "HostServices.h"
+#include "hostsdk/core/HostServices.h"
 
 class HostApp;
 

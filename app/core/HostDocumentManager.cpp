@@ -1,7 +1,7 @@
 // Opening and closing documents.
-#include "HostDocumentManager.h"
+#include "app/core/HostDocumentManager.h"
 
-#include "OdDxf.h"
+#include "sdk/dxf/OdDxf.h"
 
 #include <QFileInfo>
 

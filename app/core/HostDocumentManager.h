@@ -1,7 +1,7 @@
 // The open documents of the host and which one is current.
 #pragma once
 
-#include "HostDocumentImpl.h"
+#include "app/core/HostDocumentImpl.h"
 
 #include <memory>
 #include <vector>

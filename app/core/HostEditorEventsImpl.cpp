@@ -1,5 +1,5 @@
 // Dispatch of editor events.
-#include "HostEditorEventsImpl.h"
+#include "app/core/HostEditorEventsImpl.h"
 
 #include <algorithm>
 #include <exception>

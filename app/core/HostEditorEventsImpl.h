@@ -2,7 +2,7 @@
 // of the host.
 #pragma once
 
-#include "HostServices.h"
+#include "hostsdk/core/HostServices.h"
 
 #include <functional>
 #include <vector>

@@ -1,5 +1,5 @@
 // Splitting typed text into inputs.
-#include "HostInputQueue.h"
+#include "app/core/HostInputQueue.h"
 
 namespace {
 // Cancel in the queue: the control character that Ctrl+C types.

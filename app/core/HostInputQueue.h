@@ -3,7 +3,7 @@
 // not allow spaces.
 #pragma once
 
-#include "OdString.h"
+#include "sdk/kernel/OdString.h"
 
 class HostInputQueue
 {

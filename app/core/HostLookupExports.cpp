@@ -2,10 +2,10 @@
 // library, so that every program linking it (the console, the desktop
 // program, test programs) is a host; a module finds them with
 // dlsym(RTLD_DEFAULT, ...).
-#include "HostApp.h"
-#include "HostCmdFactoryImpl.h"
-#include "HostLookupExports.h"
-#include "HostServicesImpl.h"
+#include "app/core/HostApp.h"
+#include "app/core/HostCmdFactoryImpl.h"
+#include "app/core/HostLookupExports.h"
+#include "app/core/HostServicesImpl.h"
 
 #include <dlfcn.h>
 

@@ -2,7 +2,7 @@
 // that call them directly (modules look them up by name; see HostLookup.h).
 #pragma once
 
-#include "HostLookup.h"
+#include "hostsdk/core/HostLookup.h"
 
 extern "C" {
 void* GetMainDllInstance();

@@ -1,5 +1,5 @@
 // Command-line output.
-#include "HostOutput.h"
+#include "app/core/HostOutput.h"
 
 #include <cstdio>
 

@@ -2,7 +2,7 @@
 // a sink (standard output unless one is set).
 #pragma once
 
-#include "HostServices.h"
+#include "hostsdk/core/HostServices.h"
 
 #include <functional>
 

@@ -1,5 +1,5 @@
 // XDG and installation folders of the reference host.
-#include "HostPaths.h"
+#include "app/core/HostPaths.h"
 
 #include <QDir>
 #include <QFileInfo>

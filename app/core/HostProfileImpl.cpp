@@ -1,9 +1,9 @@
 // The configuration tree as the modules see it.
-#include "HostProfileImpl.h"
+#include "app/core/HostProfileImpl.h"
 
-#include "HostApp.h"
-#include "HostConfig.h"
-#include "HostConfigParam.h"
+#include "app/core/HostApp.h"
+#include "app/core/HostConfig.h"
+#include "app/core/HostConfigParam.h"
 
 bool HostProfileImpl::getRoot(IConfigManager** out)
 {

@@ -1,7 +1,7 @@
 // IProfile of the reference host: the root of its configuration tree.
 #pragma once
 
-#include "AppInterfaces.h"
+#include "hostsdk/core/AppInterfaces.h"
 
 class HostApp;
 

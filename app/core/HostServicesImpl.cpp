@@ -1,11 +1,11 @@
 // The services a module asks of the host.
-#include "HostServicesImpl.h"
+#include "app/core/HostServicesImpl.h"
 
-#include "HostApp.h"
-#include "HostCompletionRegistryImpl.h"
-#include "HostDocumentManager.h"
-#include "HostEditorEventsImpl.h"
-#include "HostOutput.h"
+#include "app/core/HostApp.h"
+#include "app/core/HostCompletionRegistryImpl.h"
+#include "app/core/HostDocumentManager.h"
+#include "app/core/HostEditorEventsImpl.h"
+#include "app/core/HostOutput.h"
 
 HostDocument* HostServicesImpl::currentDocument()
 {

@@ -1,7 +1,7 @@
 // HostServices of the reference host: what get_host_funcptr(2) leads to.
 #pragma once
 
-#include "HostServices.h"
+#include "hostsdk/core/HostServices.h"
 
 class HostApp;
 

@@ -1,9 +1,9 @@
 // The standard folders and their defaults.
-#include "HostStdDirsImpl.h"
+#include "app/core/HostStdDirsImpl.h"
 
-#include "HostApp.h"
-#include "HostConfig.h"
-#include "HostPaths.h"
+#include "app/core/HostApp.h"
+#include "app/core/HostConfig.h"
+#include "app/core/HostPaths.h"
 
 namespace {
 const char* const kKnownKeys[] = {"ToolPaletteDir", "CommonDirs", "Shx"};

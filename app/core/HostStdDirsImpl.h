@@ -3,7 +3,7 @@
 // "StdDirs", with defaults for those not set.
 #pragma once
 
-#include "AppInterfaces.h"
+#include "hostsdk/core/AppInterfaces.h"
 
 class HostApp;
 

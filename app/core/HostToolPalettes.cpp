@@ -1,15 +1,15 @@
 // Listing and saving the module's catalogs from the command line.
-#include "HostToolPalettes.h"
+#include "app/core/HostToolPalettes.h"
 
-#include "HostApp.h"
-#include "HostBuiltinCommands.h"
-#include "HostCommandTable.h"
-#include "HostOutput.h"
+#include "app/core/HostApp.h"
+#include "app/core/HostBuiltinCommands.h"
+#include "app/core/HostCommandTable.h"
+#include "app/core/HostOutput.h"
 
-#include "OdTcPaletteManager.h"
-#include "OdTcPaletteSoftRef.h"
+#include "module/OdTcPaletteManager.h"
+#include "model/OdTcPaletteSoftRef.h"
 
-#include "OdRxClass.h"
+#include "sdk/kernel/OdRxClass.h"
 
 #include <dlfcn.h>
 

@@ -3,9 +3,9 @@
 // the notices of changed options.
 #pragma once
 
-#include "CRkVariant.h"
-#include "CXStringW.h"
-#include "RkUnknown.h"
+#include "hostsdk/core/CRkVariant.h"
+#include "hostsdk/core/CXStringW.h"
+#include "hostsdk/core/RkUnknown.h"
 
 #include <vector>
 

@@ -1,7 +1,7 @@
 // CRkVariant conversions.
-#include "CRkVariant.h"
+#include "hostsdk/core/CRkVariant.h"
 
-#include "OdWcstol.h"
+#include "sdk/kernel/OdWcstol.h"
 
 std::int32_t CRkVariant::toInt32() const
 {

@@ -1,7 +1,7 @@
 // CRkVariant: the host's variant, with the type codes the host uses.
 #pragma once
 
-#include "OdString.h"
+#include "sdk/kernel/OdString.h"
 
 #include <cstdint>
 #include <string>

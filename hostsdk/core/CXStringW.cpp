@@ -1,5 +1,5 @@
 // CXStringW path helpers.
-#include "CXStringW.h"
+#include "hostsdk/core/CXStringW.h"
 
 namespace {
 int lastSeparator(const OdString& s)

@@ -1,7 +1,7 @@
 // CXStringW: the host's wide string, with the path helpers the host offers.
 #pragma once
 
-#include "OdString.h"
+#include "sdk/kernel/OdString.h"
 
 class CXStringW
 {

@@ -2,8 +2,8 @@
 // what the factory hands back to run a command by name.
 #pragma once
 
-#include "CRkVariant.h"
-#include "RkUnknown.h"
+#include "hostsdk/core/CRkVariant.h"
+#include "hostsdk/core/RkUnknown.h"
 
 // A command object of the class kind.
 class ICmdProcess : public IRkUnknown

@@ -1,5 +1,5 @@
 // Translation and file tests of the host core.
-#include "HostCore.h"
+#include "hostsdk/core/HostCore.h"
 
 #include <QDir>
 #include <QFile>

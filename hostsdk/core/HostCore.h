@@ -1,7 +1,7 @@
 // The host's core services: translation of user texts and file tests.
 #pragma once
 
-#include "OdString.h"
+#include "sdk/kernel/OdString.h"
 
 // The host's translation of a key or text. Without an installed catalog, or
 // for a text the catalog lacks, the text comes back unchanged.

@@ -2,7 +2,7 @@
 // text, a description, a picture and an action.
 #pragma once
 
-#include "OdString.h"
+#include "sdk/kernel/OdString.h"
 
 #include <functional>
 #include <memory>

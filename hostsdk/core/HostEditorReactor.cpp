@@ -1,8 +1,8 @@
 // Class machinery of the event reactors, registered when the host core loads
 // so that reactors of modules can name HostEditorReactor as their parent.
-#include "HostEditorReactor.h"
+#include "hostsdk/core/HostEditorReactor.h"
 
-#include "OdRxClass.h"
+#include "sdk/kernel/OdRxClass.h"
 
 ODRX_NO_CONS_DEFINE_MEMBERS(OdRxEventReactor, OdRxObject)
 ODRX_NO_CONS_DEFINE_MEMBERS(OdEditorReactor, OdRxEventReactor)

@@ -2,7 +2,7 @@
 // others do nothing.
 #pragma once
 
-#include "OdRxObject.h"
+#include "sdk/kernel/OdRxObject.h"
 
 class OdDbDatabase;
 

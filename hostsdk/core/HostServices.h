@@ -3,8 +3,8 @@
 // and the main window.
 #pragma once
 
-#include "HostEdCompletion.h"
-#include "HostEditorReactor.h"
+#include "hostsdk/core/HostEdCompletion.h"
+#include "hostsdk/core/HostEditorReactor.h"
 
 class OdDbDatabase;
 class QWidget;

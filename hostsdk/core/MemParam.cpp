@@ -1,5 +1,5 @@
 // new_MemParam: the bag of named parameters handed to a command run by name.
-#include "CmdInterfaces.h"
+#include "hostsdk/core/CmdInterfaces.h"
 
 #include <string>
 #include <utility>

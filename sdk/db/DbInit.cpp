@@ -1,21 +1,21 @@
 // The database classes are registered the moment the library loads,
 // parents before children.
-#include "OdDbBlockReference.h"
-#include "OdDbBlockTableRecord.h"
-#include "OdDbCurves.h"
-#include "OdDbDatabase.h"
-#include "OdDbDictionary.h"
-#include "OdDbDimStyleTableRecord.h"
-#include "OdDbHatch.h"
-#include "OdDbLayerTableRecord.h"
-#include "OdDbLayout.h"
-#include "OdDbLinetypeTableRecord.h"
-#include "OdDbPolyline.h"
-#include "OdDbRasterImage.h"
-#include "OdDbText.h"
-#include "OdDbTextStyleTableRecord.h"
+#include "sdk/db/OdDbBlockReference.h"
+#include "sdk/db/OdDbBlockTableRecord.h"
+#include "sdk/db/OdDbCurves.h"
+#include "sdk/db/OdDbDatabase.h"
+#include "sdk/db/OdDbDictionary.h"
+#include "sdk/db/OdDbDimStyleTableRecord.h"
+#include "sdk/db/OdDbHatch.h"
+#include "sdk/db/OdDbLayerTableRecord.h"
+#include "sdk/db/OdDbLayout.h"
+#include "sdk/db/OdDbLinetypeTableRecord.h"
+#include "sdk/db/OdDbPolyline.h"
+#include "sdk/db/OdDbRasterImage.h"
+#include "sdk/db/OdDbText.h"
+#include "sdk/db/OdDbTextStyleTableRecord.h"
 
-#include "OdRxClass.h"
+#include "sdk/kernel/OdRxClass.h"
 
 void odDbInitClasses()
 {

@@ -1,5 +1,5 @@
 // Colour methods, the colour index table and transparency packing.
-#include "OdCmColor.h"
+#include "sdk/db/OdCmColor.h"
 
 #include <array>
 #include <cmath>

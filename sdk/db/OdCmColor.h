@@ -1,7 +1,7 @@
 // OdCmColor and OdCmTransparency: colours and transparency of drawing objects.
 #pragma once
 
-#include "OdString.h"
+#include "sdk/kernel/OdString.h"
 
 #include <cstdint>
 

@@ -1,9 +1,9 @@
 // Block references and dimensions: definitions and styles found by name.
-#include "OdDbBlockReference.h"
-#include "OdDbBlockTableRecord.h"
-#include "OdDbDatabase.h"
+#include "sdk/db/OdDbBlockReference.h"
+#include "sdk/db/OdDbBlockTableRecord.h"
+#include "sdk/db/OdDbDatabase.h"
 
-#include "OdRxClass.h"
+#include "sdk/kernel/OdRxClass.h"
 
 #include <cmath>
 

@@ -1,8 +1,8 @@
 // Block references (INSERT) with their attributes, and dimensions.
 #pragma once
 
-#include "OdDbSubEntities.h"
-#include "OdDbText.h"
+#include "sdk/db/OdDbSubEntities.h"
+#include "sdk/db/OdDbText.h"
 
 class OdDbBlockTableRecord;
 

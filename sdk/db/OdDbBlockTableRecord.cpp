@@ -1,8 +1,8 @@
 // Block definitions: the record, its BLOCK/ENDBLK frame and its entities.
-#include "OdDbBlockTableRecord.h"
-#include "OdDbDatabase.h"
+#include "sdk/db/OdDbBlockTableRecord.h"
+#include "sdk/db/OdDbDatabase.h"
 
-#include "OdRxClass.h"
+#include "sdk/kernel/OdRxClass.h"
 
 ODRX_DEFINE_MEMBERS(OdDbBlockTableRecord, OdDbSymbolTableRecord, ODRX_CREATE_IMPL(OdDbBlockTableRecord, OdDbBlockTableRecord))
 

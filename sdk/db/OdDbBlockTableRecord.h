@@ -1,9 +1,9 @@
 // OdDbBlockTableRecord: a block definition (or layout space) and its entities.
 #pragma once
 
-#include "OdDbEntity.h"
-#include "OdDbObjectIterator.h"
-#include "OdDbSymbolTable.h"
+#include "sdk/db/OdDbEntity.h"
+#include "sdk/db/OdDbObjectIterator.h"
+#include "sdk/db/OdDbSymbolTable.h"
 
 #include <vector>
 

@@ -2,15 +2,15 @@
 // An object is copied through its pairs: handles are mapped to the copies
 // (made when first needed), names of records to the target's records, where
 // a record of the same name in the target wins.
-#include "OdDbCloner.h"
-#include "OdDbBlockReference.h"
-#include "OdDbBlockTableRecord.h"
-#include "OdDbDatabase.h"
-#include "OdDbDictionary.h"
-#include "OdDbPolyline.h"
-#include "OdDbRasterImage.h"
+#include "sdk/db/OdDbCloner.h"
+#include "sdk/db/OdDbBlockReference.h"
+#include "sdk/db/OdDbBlockTableRecord.h"
+#include "sdk/db/OdDbDatabase.h"
+#include "sdk/db/OdDbDictionary.h"
+#include "sdk/db/OdDbPolyline.h"
+#include "sdk/db/OdDbRasterImage.h"
 
-#include "OdRxClass.h"
+#include "sdk/kernel/OdRxClass.h"
 
 #include <QFileInfo>
 #include <unordered_map>

@@ -2,7 +2,7 @@
 // records they use (a record of the same name in the target wins).
 #pragma once
 
-#include "OdDbObjectId.h"
+#include "sdk/db/OdDbObjectId.h"
 
 #include <vector>
 

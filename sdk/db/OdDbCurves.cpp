@@ -1,7 +1,7 @@
 // Simple geometric entities over their subclass sections.
-#include "OdDbCurves.h"
+#include "sdk/db/OdDbCurves.h"
 
-#include "OdRxClass.h"
+#include "sdk/kernel/OdRxClass.h"
 
 #include <cmath>
 

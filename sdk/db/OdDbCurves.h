@@ -1,7 +1,7 @@
 // Simple geometric entities: line, circle, arc, ellipse, point, solid, spline.
 #pragma once
 
-#include "OdDbEntity.h"
+#include "sdk/db/OdDbEntity.h"
 
 #define ODDB_THICK_NORMAL(Sub)                                                    \
   double thickness() const { return getDouble(Sub, 39, 0.0); }                     \

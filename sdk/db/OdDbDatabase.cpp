@@ -1,14 +1,14 @@
 // The drawing database: handles, tables, header variables, current values.
-#include "OdDbDatabase.h"
-#include "OdDbBlockTableRecord.h"
-#include "OdDbDictionary.h"
-#include "OdDbDimStyleTableRecord.h"
-#include "OdDbLayerTableRecord.h"
-#include "OdDbLayout.h"
-#include "OdDbLinetypeTableRecord.h"
-#include "OdDbTextStyleTableRecord.h"
+#include "sdk/db/OdDbDatabase.h"
+#include "sdk/db/OdDbBlockTableRecord.h"
+#include "sdk/db/OdDbDictionary.h"
+#include "sdk/db/OdDbDimStyleTableRecord.h"
+#include "sdk/db/OdDbLayerTableRecord.h"
+#include "sdk/db/OdDbLayout.h"
+#include "sdk/db/OdDbLinetypeTableRecord.h"
+#include "sdk/db/OdDbTextStyleTableRecord.h"
 
-#include "OdRxClass.h"
+#include "sdk/kernel/OdRxClass.h"
 
 #include <algorithm>
 

@@ -1,8 +1,8 @@
 // OdDbDatabase: a drawing in memory — objects by handle, tables, header.
 #pragma once
 
-#include "OdCmColor.h"
-#include "OdDbObject.h"
+#include "sdk/db/OdCmColor.h"
+#include "sdk/db/OdDbObject.h"
 
 #include <deque>
 #include <unordered_map>

@@ -1,14 +1,14 @@
 // What every drawing holds: created for new drawings, and added to drawings
 // read from files of versions that lack it (before layouts, or without
 // handles), so that what is written is a complete drawing of today.
-#include "OdDbBlockTableRecord.h"
-#include "OdDbDatabase.h"
-#include "OdDbDictionary.h"
-#include "OdDbDimStyleTableRecord.h"
-#include "OdDbLayerTableRecord.h"
-#include "OdDbLayout.h"
-#include "OdDbLinetypeTableRecord.h"
-#include "OdDbTextStyleTableRecord.h"
+#include "sdk/db/OdDbBlockTableRecord.h"
+#include "sdk/db/OdDbDatabase.h"
+#include "sdk/db/OdDbDictionary.h"
+#include "sdk/db/OdDbDimStyleTableRecord.h"
+#include "sdk/db/OdDbLayerTableRecord.h"
+#include "sdk/db/OdDbLayout.h"
+#include "sdk/db/OdDbLinetypeTableRecord.h"
+#include "sdk/db/OdDbTextStyleTableRecord.h"
 
 namespace {
 

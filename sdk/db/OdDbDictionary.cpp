@@ -1,8 +1,8 @@
 // Dictionary entries as pairs of code 3 (name) and 350/360 (object).
-#include "OdDbDictionary.h"
-#include "OdDbDatabase.h"
+#include "sdk/db/OdDbDictionary.h"
+#include "sdk/db/OdDbDatabase.h"
 
-#include "OdRxClass.h"
+#include "sdk/kernel/OdRxClass.h"
 
 ODRX_DEFINE_MEMBERS(OdDbDictionary, OdDbObject, ODRX_CREATE_IMPL(OdDbDictionary, OdDbDictionary))
 

@@ -1,7 +1,7 @@
 // OdDbDictionary: named entries pointing at objects (layouts, images, groups...).
 #pragma once
 
-#include "OdDbObject.h"
+#include "sdk/db/OdDbObject.h"
 
 #include <utility>
 #include <vector>

@@ -1,10 +1,10 @@
 // Dimension style variables: by group code, or as extended data by name.
-#include "OdDbDimStyleTableRecord.h"
-#include "OdDbBlockTableRecord.h"
-#include "OdDbDatabase.h"
-#include "OdDmUtil.h"
+#include "sdk/db/OdDbDimStyleTableRecord.h"
+#include "sdk/db/OdDbBlockTableRecord.h"
+#include "sdk/db/OdDbDatabase.h"
+#include "sdk/db/OdDmUtil.h"
 
-#include "OdRxClass.h"
+#include "sdk/kernel/OdRxClass.h"
 
 ODRX_DEFINE_MEMBERS(OdDbDimStyleTableRecord, OdDbSymbolTableRecord,
                     ODRX_CREATE_IMPL(OdDbDimStyleTableRecord, OdDbDimStyleTableRecord))

@@ -1,8 +1,8 @@
 // OdDbDimStyleTableRecord: a dimension style, every dimension variable.
 #pragma once
 
-#include "OdCmColor.h"
-#include "OdDbSymbolTable.h"
+#include "sdk/db/OdCmColor.h"
+#include "sdk/db/OdDbSymbolTable.h"
 
 // Every variable: name, group code (negative: kept as extended data of
 // kDimVarsApp, since the file format gives it no code of its own), C++ type,

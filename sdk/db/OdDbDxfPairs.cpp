@@ -1,5 +1,5 @@
 // Pair text storage and the conversions between pair texts and values.
-#include "OdDbDxfPairs.h"
+#include "sdk/db/OdDbDxfPairs.h"
 
 #include <charconv>
 #include <cstring>

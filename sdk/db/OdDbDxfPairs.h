@@ -1,7 +1,7 @@
 // Group-code pairs, the storage of every drawing object, and their text arena.
 #pragma once
 
-#include "OdString.h"
+#include "sdk/kernel/OdString.h"
 
 #include <cstdint>
 #include <memory>

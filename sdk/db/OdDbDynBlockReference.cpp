@@ -1,8 +1,8 @@
 // Dynamic blocks: from the anonymous representation back to the definition.
-#include "OdDbDynBlockReference.h"
-#include "OdDbBlockTableRecord.h"
-#include "OdDbDatabase.h"
-#include "OdDbDictionary.h"
+#include "sdk/db/OdDbDynBlockReference.h"
+#include "sdk/db/OdDbBlockTableRecord.h"
+#include "sdk/db/OdDbDatabase.h"
+#include "sdk/db/OdDbDictionary.h"
 
 OdDbDynBlockReference::OdDbDynBlockReference(OdDbObjectId id) : m_ref(OdDbBlockReference::cast(id.openObject())) {}
 

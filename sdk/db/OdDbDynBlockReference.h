@@ -1,7 +1,7 @@
 // OdDbDynBlockReference: the dynamic block behind a block reference.
 #pragma once
 
-#include "OdDbBlockReference.h"
+#include "sdk/db/OdDbBlockReference.h"
 
 // A reference to a dynamic block names an anonymous representation (*U...)
 // of it; the representation points back at the dynamic block's definition

@@ -1,9 +1,9 @@
 // General entity properties kept in the AcDbEntity section.
-#include "OdDbEntity.h"
-#include "OdDbDatabase.h"
-#include "OdDbSymbolTable.h"
+#include "sdk/db/OdDbEntity.h"
+#include "sdk/db/OdDbDatabase.h"
+#include "sdk/db/OdDbSymbolTable.h"
 
-#include "OdRxClass.h"
+#include "sdk/kernel/OdRxClass.h"
 
 ODRX_DEFINE_MEMBERS(OdDbEntity, OdDbObject, ODRX_CREATE_IMPL(OdDbEntity, OdDbEntity))
 ODRX_NO_CONS_DEFINE_MEMBERS(OdDbCurve, OdDbEntity)

@@ -1,8 +1,8 @@
 // OdDbEntity: the general properties every drawing entity has.
 #pragma once
 
-#include "OdCmColor.h"
-#include "OdDbObject.h"
+#include "sdk/db/OdCmColor.h"
+#include "sdk/db/OdDbObject.h"
 
 class OdDbEntity : public OdDbObject
 {

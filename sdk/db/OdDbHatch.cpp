@@ -1,7 +1,7 @@
 // Hatch data: the AcDbHatch section decoded in its order, and written back.
-#include "OdDbHatch.h"
+#include "sdk/db/OdDbHatch.h"
 
-#include "OdRxClass.h"
+#include "sdk/kernel/OdRxClass.h"
 
 #include <cmath>
 

@@ -1,8 +1,8 @@
 // OdDbHatch: pattern and gradient fills with their boundary loops.
 #pragma once
 
-#include "OdCmColor.h"
-#include "OdDbEntity.h"
+#include "sdk/db/OdCmColor.h"
+#include "sdk/db/OdDbEntity.h"
 
 #include <vector>
 

@@ -1,9 +1,9 @@
 // Layer records: colour sign for off, plot style through its dictionary.
-#include "OdDbLayerTableRecord.h"
-#include "OdDbDatabase.h"
-#include "OdDbDictionary.h"
+#include "sdk/db/OdDbLayerTableRecord.h"
+#include "sdk/db/OdDbDatabase.h"
+#include "sdk/db/OdDbDictionary.h"
 
-#include "OdRxClass.h"
+#include "sdk/kernel/OdRxClass.h"
 
 ODRX_DEFINE_MEMBERS(OdDbLayerTableRecord, OdDbSymbolTableRecord, ODRX_CREATE_IMPL(OdDbLayerTableRecord, OdDbLayerTableRecord))
 

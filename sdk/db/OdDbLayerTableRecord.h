@@ -1,8 +1,8 @@
 // OdDbLayerTableRecord: a layer with its colour, linetype and plot settings.
 #pragma once
 
-#include "OdCmColor.h"
-#include "OdDbSymbolTable.h"
+#include "sdk/db/OdCmColor.h"
+#include "sdk/db/OdDbSymbolTable.h"
 
 class OdDbLayerTableRecord : public OdDbSymbolTableRecord
 {

@@ -1,7 +1,7 @@
 // Layouts: plot settings values by their group codes.
-#include "OdDbLayout.h"
+#include "sdk/db/OdDbLayout.h"
 
-#include "OdRxClass.h"
+#include "sdk/kernel/OdRxClass.h"
 
 ODRX_DEFINE_MEMBERS(OdDbPlotSettings, OdDbObject, ODRX_CREATE_IMPL(OdDbPlotSettings, OdDbPlotSettings))
 ODRX_DEFINE_MEMBERS(OdDbLayout, OdDbPlotSettings, ODRX_CREATE_IMPL(OdDbLayout, OdDbLayout))

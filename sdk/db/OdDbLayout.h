@@ -1,7 +1,7 @@
 // Layouts and their plot settings.
 #pragma once
 
-#include "OdDbObject.h"
+#include "sdk/db/OdDbObject.h"
 
 class OdDbPlotSettings : public OdDbObject
 {

@@ -1,8 +1,8 @@
 // Linetype records: the dash list is read and rewritten as a whole.
-#include "OdDbLinetypeTableRecord.h"
-#include "OdDbDatabase.h"
+#include "sdk/db/OdDbLinetypeTableRecord.h"
+#include "sdk/db/OdDbDatabase.h"
 
-#include "OdRxClass.h"
+#include "sdk/kernel/OdRxClass.h"
 
 ODRX_DEFINE_MEMBERS(OdDbLinetypeTableRecord, OdDbSymbolTableRecord,
                     ODRX_CREATE_IMPL(OdDbLinetypeTableRecord, OdDbLinetypeTableRecord))

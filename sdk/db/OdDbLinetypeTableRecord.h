@@ -1,7 +1,7 @@
 // OdDbLinetypeTableRecord: a linetype, its dashes and their shapes or texts.
 #pragma once
 
-#include "OdDbSymbolTable.h"
+#include "sdk/db/OdDbSymbolTable.h"
 
 #include <vector>
 

@@ -1,8 +1,8 @@
 // OdDbObject: pair storage access shared by every class of the database.
-#include "OdDbObject.h"
-#include "OdDbDatabase.h"
+#include "sdk/db/OdDbObject.h"
+#include "sdk/db/OdDbDatabase.h"
 
-#include "OdRxClass.h"
+#include "sdk/kernel/OdRxClass.h"
 
 ODRX_DEFINE_MEMBERS(OdDbObject, OdRxObject, ODRX_CREATE_IMPL(OdDbObject, OdDbObject))
 

@@ -1,10 +1,10 @@
 // OdDbObject: the root of everything a drawing database holds.
 #pragma once
 
-#include "OdDbDxfPairs.h"
-#include "OdDbObjectId.h"
-#include "OdGeTypes.h"
-#include "OdRxObject.h"
+#include "sdk/db/OdDbDxfPairs.h"
+#include "sdk/db/OdDbObjectId.h"
+#include "sdk/db/OdGeTypes.h"
+#include "sdk/kernel/OdRxObject.h"
 
 #include <initializer_list>
 #include <string>

@@ -1,5 +1,5 @@
 // Handles as hex text.
-#include "OdDbObjectId.h"
+#include "sdk/db/OdDbObjectId.h"
 
 #include <charconv>
 

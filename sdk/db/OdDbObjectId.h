@@ -1,8 +1,8 @@
 // Handles, object ids and the SDK's drawing enums.
 #pragma once
 
-#include "OdSmartPtr.h"
-#include "OdString.h"
+#include "sdk/kernel/OdSmartPtr.h"
+#include "sdk/kernel/OdString.h"
 
 #include <cstdint>
 #include <functional>

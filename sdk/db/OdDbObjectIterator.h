@@ -1,7 +1,7 @@
 // OdDbObjectIterator: walks the entities of a block or the sub-entities of one.
 #pragma once
 
-#include "OdDbEntity.h"
+#include "sdk/db/OdDbEntity.h"
 
 #include <vector>
 

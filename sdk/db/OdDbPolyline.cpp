@@ -1,8 +1,8 @@
 // Light and 2-D polylines.
-#include "OdDbPolyline.h"
-#include "OdDbBlockTableRecord.h"
+#include "sdk/db/OdDbPolyline.h"
+#include "sdk/db/OdDbBlockTableRecord.h"
 
-#include "OdRxClass.h"
+#include "sdk/kernel/OdRxClass.h"
 
 ODRX_DEFINE_MEMBERS(OdDbPolyline, OdDbCurve, ODRX_CREATE_IMPL(OdDbPolyline, OdDbPolyline))
 ODRX_DEFINE_MEMBERS(OdDb2dVertex, OdDbEntity, ODRX_CREATE_IMPL(OdDb2dVertex, OdDb2dVertex))

@@ -1,7 +1,7 @@
 // Polylines: the light one (LWPOLYLINE) and the 2-D one with vertex entities.
 #pragma once
 
-#include "OdDbSubEntities.h"
+#include "sdk/db/OdDbSubEntities.h"
 
 // Vertices are 2-D in the plane of the polyline (elevation, normal); each
 // may carry a bulge (tan of a quarter of the arc angle) and widths.

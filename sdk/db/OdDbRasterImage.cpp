@@ -1,8 +1,8 @@
 // Raster images and image definitions; file names resolved as on Linux.
-#include "OdDbRasterImage.h"
-#include "OdDbDatabase.h"
+#include "sdk/db/OdDbRasterImage.h"
+#include "sdk/db/OdDbDatabase.h"
 
-#include "OdRxClass.h"
+#include "sdk/kernel/OdRxClass.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -1,7 +1,7 @@
 // Raster images: the IMAGE entity and the IMAGEDEF object it shows.
 #pragma once
 
-#include "OdDbEntity.h"
+#include "sdk/db/OdDbEntity.h"
 
 class OdDbRasterImageDef : public OdDbObject
 {

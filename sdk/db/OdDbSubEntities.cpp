@@ -1,6 +1,6 @@
 // Sub-entity lists of block references and polylines.
-#include "OdDbSubEntities.h"
-#include "OdDbDatabase.h"
+#include "sdk/db/OdDbSubEntities.h"
+#include "sdk/db/OdDbDatabase.h"
 
 void OdDbSubEntities::ensureSeqEnd()
 {

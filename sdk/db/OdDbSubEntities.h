@@ -2,8 +2,8 @@
 // reference and vertices of a polyline, closed by a SEQEND.
 #pragma once
 
-#include "OdDbEntity.h"
-#include "OdDbObjectIterator.h"
+#include "sdk/db/OdDbEntity.h"
+#include "sdk/db/OdDbObjectIterator.h"
 
 #include <vector>
 

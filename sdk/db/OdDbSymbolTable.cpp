@@ -1,13 +1,13 @@
 // Symbol tables: records by name, in order, and their iterators.
-#include "OdDbSymbolTable.h"
-#include "OdDbBlockTableRecord.h"
-#include "OdDbDatabase.h"
-#include "OdDbDimStyleTableRecord.h"
-#include "OdDbLayerTableRecord.h"
-#include "OdDbLinetypeTableRecord.h"
-#include "OdDbTextStyleTableRecord.h"
+#include "sdk/db/OdDbSymbolTable.h"
+#include "sdk/db/OdDbBlockTableRecord.h"
+#include "sdk/db/OdDbDatabase.h"
+#include "sdk/db/OdDbDimStyleTableRecord.h"
+#include "sdk/db/OdDbLayerTableRecord.h"
+#include "sdk/db/OdDbLinetypeTableRecord.h"
+#include "sdk/db/OdDbTextStyleTableRecord.h"
 
-#include "OdRxClass.h"
+#include "sdk/kernel/OdRxClass.h"
 
 ODRX_NO_CONS_DEFINE_MEMBERS(OdDbSymbolTableRecord, OdDbObject)
 ODRX_DEFINE_MEMBERS(OdDbSymbolTable, OdDbObject, ODRX_CREATE_IMPL(OdDbSymbolTable, OdDbSymbolTable))

@@ -1,7 +1,7 @@
 // Symbol tables (layers, linetypes, styles, blocks, ...) and their records.
 #pragma once
 
-#include "OdDbObject.h"
+#include "sdk/db/OdDbObject.h"
 
 #include <QHash>
 #include <vector>

@@ -1,9 +1,9 @@
 // Text entities: angles in degrees in the file, styles by name.
-#include "OdDbText.h"
-#include "OdDbDatabase.h"
-#include "OdDbSymbolTable.h"
+#include "sdk/db/OdDbText.h"
+#include "sdk/db/OdDbDatabase.h"
+#include "sdk/db/OdDbSymbolTable.h"
 
-#include "OdRxClass.h"
+#include "sdk/kernel/OdRxClass.h"
 
 #include <cmath>
 

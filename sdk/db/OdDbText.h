@@ -1,7 +1,7 @@
 // Text entities: single-line text, attributes and their definitions, MTEXT.
 #pragma once
 
-#include "OdDbEntity.h"
+#include "sdk/db/OdDbEntity.h"
 
 class OdDbText : public OdDbEntity
 {

@@ -1,7 +1,7 @@
 // Text style records: flags, angles in degrees in the file, font in xdata.
-#include "OdDbTextStyleTableRecord.h"
+#include "sdk/db/OdDbTextStyleTableRecord.h"
 
-#include "OdRxClass.h"
+#include "sdk/kernel/OdRxClass.h"
 
 #include <cmath>
 

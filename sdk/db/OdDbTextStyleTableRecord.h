@@ -1,7 +1,7 @@
 // OdDbTextStyleTableRecord: a text style (font or shape file and its look).
 #pragma once
 
-#include "OdDbSymbolTable.h"
+#include "sdk/db/OdDbSymbolTable.h"
 
 class OdDbTextStyleTableRecord : public OdDbSymbolTableRecord
 {

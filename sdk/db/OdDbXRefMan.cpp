@@ -1,8 +1,8 @@
 // External references: attaching, finding and loading their drawings.
-#include "OdDbXRefMan.h"
-#include "OdDbBlockTableRecord.h"
-#include "OdDbCloner.h"
-#include "OdDbDatabase.h"
+#include "sdk/db/OdDbXRefMan.h"
+#include "sdk/db/OdDbBlockTableRecord.h"
+#include "sdk/db/OdDbCloner.h"
+#include "sdk/db/OdDbDatabase.h"
 
 #include <QDir>
 #include <QFileInfo>

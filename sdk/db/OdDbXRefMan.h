@@ -1,8 +1,8 @@
 // OdDbXRefMan: loading external references into their blocks.
 #pragma once
 
-#include "OdDbObjectId.h"
-#include "OdError.h"
+#include "sdk/db/OdDbObjectId.h"
+#include "sdk/kernel/OdError.h"
 
 class OdDbBlockTableRecord;
 class OdDbDatabase;

@@ -1,7 +1,7 @@
 // Built-in arrowheads of dimensions.
-#include "OdDmUtil.h"
-#include "OdDbBlockTableRecord.h"
-#include "OdDbDatabase.h"
+#include "sdk/db/OdDmUtil.h"
+#include "sdk/db/OdDbBlockTableRecord.h"
+#include "sdk/db/OdDbDatabase.h"
 
 namespace {
 const char* const kArrows[] = {"ClosedBlank", "Closed", "Dot", "ArchTick", "Oblique", "Open", "Origin", "Origin2",

@@ -1,7 +1,7 @@
 // OdDmUtil: dimension helpers (the built-in arrow blocks).
 #pragma once
 
-#include "OdDbObjectId.h"
+#include "sdk/db/OdDbObjectId.h"
 
 class OdDmUtil
 {

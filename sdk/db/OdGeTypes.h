@@ -1,7 +1,7 @@
 // Plain geometry values of the drawing SDK: points, vectors and scales.
 #pragma once
 
-#include "OdArray.h"
+#include "sdk/kernel/OdArray.h"
 
 #include <cmath>
 

@@ -1,7 +1,7 @@
 // Reading and writing drawings as DXF files: the entry points for hosts.
 #pragma once
 
-#include "OdDbDatabase.h"
+#include "sdk/db/OdDbDatabase.h"
 
 #include <string>
 

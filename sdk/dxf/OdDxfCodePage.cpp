@@ -1,5 +1,5 @@
 // Code page conversion through glibc's iconv.
-#include "OdDxfCodePage.h"
+#include "sdk/dxf/OdDxfCodePage.h"
 
 #include <algorithm>
 #include <cerrno>

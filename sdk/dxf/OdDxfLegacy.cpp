@@ -1,5 +1,5 @@
 // Subclass markers for objects read from files that predate them.
-#include "OdDxfLegacy.h"
+#include "sdk/dxf/OdDxfLegacy.h"
 
 #include <algorithm>
 

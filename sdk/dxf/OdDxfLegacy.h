@@ -1,7 +1,7 @@
 // Drawings of R12 and before keep no subclass markers; today's form needs them.
 #pragma once
 
-#include "OdDbDxfPairs.h"
+#include "sdk/db/OdDbDxfPairs.h"
 
 #include <string>
 

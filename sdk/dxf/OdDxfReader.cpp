@@ -1,20 +1,20 @@
 // Reading DXF files into a database: sections, tables, blocks, entities and
 // objects, each object keeping its pairs (handle and owner taken out).
-#include "OdDxf.h"
-#include "OdDxfCodePage.h"
-#include "OdDxfLegacy.h"
-#include "OdDxfTokenizer.h"
+#include "sdk/dxf/OdDxf.h"
+#include "sdk/dxf/OdDxfCodePage.h"
+#include "sdk/dxf/OdDxfLegacy.h"
+#include "sdk/dxf/OdDxfTokenizer.h"
 
-#include "OdDbBlockReference.h"
-#include "OdDbBlockTableRecord.h"
-#include "OdDbCurves.h"
-#include "OdDbDictionary.h"
-#include "OdDbHatch.h"
-#include "OdDbLayout.h"
-#include "OdDbPolyline.h"
-#include "OdDbRasterImage.h"
-#include "OdDbSymbolTable.h"
-#include "OdDbText.h"
+#include "sdk/db/OdDbBlockReference.h"
+#include "sdk/db/OdDbBlockTableRecord.h"
+#include "sdk/db/OdDbCurves.h"
+#include "sdk/db/OdDbDictionary.h"
+#include "sdk/db/OdDbHatch.h"
+#include "sdk/db/OdDbLayout.h"
+#include "sdk/db/OdDbPolyline.h"
+#include "sdk/db/OdDbRasterImage.h"
+#include "sdk/db/OdDbSymbolTable.h"
+#include "sdk/db/OdDbText.h"
 
 #include <QFile>
 #include <QFileInfo>

@@ -1,7 +1,7 @@
 // ASCII tokenizing and the conversion of binary DXF into text.
-#include "OdDxfTokenizer.h"
+#include "sdk/dxf/OdDxfTokenizer.h"
 
-#include "OdError.h"
+#include "sdk/kernel/OdError.h"
 
 #include <charconv>
 #include <cstring>

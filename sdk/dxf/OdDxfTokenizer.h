@@ -1,7 +1,7 @@
 // Group-code pairs out of a DXF text held in memory, without copying.
 #pragma once
 
-#include "OdDbDxfPairs.h"
+#include "sdk/db/OdDbDxfPairs.h"
 
 #include <string>
 #include <string_view>

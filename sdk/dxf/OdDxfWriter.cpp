@@ -1,10 +1,10 @@
 // Writing a database as R2018 ASCII DXF.
-#include "OdDxf.h"
-#include "OdDxfTokenizer.h"
+#include "sdk/dxf/OdDxf.h"
+#include "sdk/dxf/OdDxfTokenizer.h"
 
-#include "OdDbBlockTableRecord.h"
-#include "OdDbDictionary.h"
-#include "OdDbSymbolTable.h"
+#include "sdk/db/OdDbBlockTableRecord.h"
+#include "sdk/db/OdDbDictionary.h"
+#include "sdk/db/OdDbSymbolTable.h"
 
 #include <QSaveFile>
 

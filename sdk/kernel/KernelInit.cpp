@@ -1,7 +1,7 @@
 // The kernel's own classes are registered the moment the library loads, so
 // that every module finds the root of the class tree in place.
-#include "OdRxModule.h"
-#include "OdStreamBuf.h"
+#include "sdk/kernel/OdRxModule.h"
+#include "sdk/kernel/OdStreamBuf.h"
 
 namespace {
 struct KernelClasses

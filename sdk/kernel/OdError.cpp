@@ -1,7 +1,7 @@
 // OdError and its kinds.
-#include "OdError.h"
+#include "sdk/kernel/OdError.h"
 
-#include "OdRxClass.h"
+#include "sdk/kernel/OdRxClass.h"
 
 OdString OdError::defaultDescription(int code)
 {

@@ -1,7 +1,7 @@
 // OdError: the exception of the SDK, carrying a result code and a text.
 #pragma once
 
-#include "OdString.h"
+#include "sdk/kernel/OdString.h"
 
 #include <exception>
 #include <string>

@@ -1,5 +1,5 @@
 // The class dictionary and the root class OdRxObject.
-#include "OdRxClass.h"
+#include "sdk/kernel/OdRxClass.h"
 
 #include <map>
 #include <memory>

@@ -1,8 +1,8 @@
 // OdRxClass: a class description, and the dictionary of all of them by name.
 #pragma once
 
-#include "OdArray.h"
-#include "OdRxObject.h"
+#include "sdk/kernel/OdArray.h"
+#include "sdk/kernel/OdRxObject.h"
 
 class OdRxClass
 {

@@ -1,7 +1,7 @@
 // Module loading through dlopen.
-#include "OdRxModule.h"
+#include "sdk/kernel/OdRxModule.h"
 
-#include "OdRxClass.h"
+#include "sdk/kernel/OdRxClass.h"
 
 #include <QCoreApplication>
 #include <QDir>

@@ -2,8 +2,8 @@
 // modules from shared libraries by name.
 #pragma once
 
-#include "OdArray.h"
-#include "OdRxObject.h"
+#include "sdk/kernel/OdArray.h"
+#include "sdk/kernel/OdRxObject.h"
 
 class OdRxModule : public OdRxObject
 {

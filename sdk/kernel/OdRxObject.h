@@ -2,8 +2,8 @@
 // their class description (isA) and answer queries for other classes.
 #pragma once
 
-#include "OdError.h"
-#include "OdSmartPtr.h"
+#include "sdk/kernel/OdError.h"
+#include "sdk/kernel/OdSmartPtr.h"
 
 #include <atomic>
 #include <utility>

@@ -1,7 +1,7 @@
 // The SDK's system services: files as streams, and fresh unique identifiers.
 #pragma once
 
-#include "OdStreamBuf.h"
+#include "sdk/kernel/OdStreamBuf.h"
 
 namespace Oda {
 enum FileAccessMode : unsigned

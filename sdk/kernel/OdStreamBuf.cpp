@@ -1,5 +1,5 @@
 // Streams: the memory stream, and file streams of the system services.
-#include "OdRxSystemServices.h"
+#include "sdk/kernel/OdRxSystemServices.h"
 
 #include <QFile>
 #include <QFileInfo>

@@ -1,7 +1,7 @@
 // OdStreamBuf: a byte stream over a file or memory.
 #pragma once
 
-#include "OdRxObject.h"
+#include "sdk/kernel/OdRxObject.h"
 
 #include <cstdint>
 #include <vector>

@@ -1,5 +1,5 @@
 // OdString: comparisons, searches and the type-checked printf formatter.
-#include "OdString.h"
+#include "sdk/kernel/OdString.h"
 
 #include <QHashFunctions>
 

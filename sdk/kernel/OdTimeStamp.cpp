@@ -1,5 +1,5 @@
 // OdTimeStamp: conversion between universal and local time, and its text.
-#include "OdTimeStamp.h"
+#include "sdk/kernel/OdTimeStamp.h"
 
 #include <QDateTime>
 #include <QLocale>

@@ -1,7 +1,7 @@
 // OdTimeStamp: a moment, as a packed count of milliseconds since 1970.
 #pragma once
 
-#include "OdString.h"
+#include "sdk/kernel/OdString.h"
 
 #include <cstdint>
 

@@ -1,5 +1,5 @@
 // OdVariant accessors.
-#include "OdVariant.h"
+#include "sdk/kernel/OdVariant.h"
 
 OdVariant::OdVariant(const OdArray<OdVariant>& v) : m_v(std::make_shared<const OdArray<OdVariant>>(v))
 {

@@ -1,8 +1,8 @@
 // OdVariant: a value of one of the SDK's basic types.
 #pragma once
 
-#include "OdArray.h"
-#include "OdRxObject.h"
+#include "sdk/kernel/OdArray.h"
+#include "sdk/kernel/OdRxObject.h"
 
 #include <cstdint>
 #include <memory>

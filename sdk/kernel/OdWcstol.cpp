@@ -1,5 +1,5 @@
 // odWcstol: the 32-bit number reader.
-#include "OdWcstol.h"
+#include "sdk/kernel/OdWcstol.h"
 
 #include <QByteArray>
 

@@ -3,7 +3,7 @@
 // first character that is not a digit, and overflow clamps.
 #pragma once
 
-#include "OdString.h"
+#include "sdk/kernel/OdString.h"
 
 #include <cstdint>
 

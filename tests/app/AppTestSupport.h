@@ -2,10 +2,10 @@
 // user folders, with its command-line output and editor events recorded.
 #pragma once
 
-#include "HostApp.h"
-#include "HostCommandLine.h"
-#include "HostCommandTable.h"
-#include "HostEditorEventsImpl.h"
+#include "app/core/HostApp.h"
+#include "app/core/HostCommandLine.h"
+#include "app/core/HostCommandTable.h"
+#include "app/core/HostEditorEventsImpl.h"
 
 #include <QDir>
 #include <QTemporaryDir>

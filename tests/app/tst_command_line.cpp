@@ -1,11 +1,11 @@
 // The command processor: macros, cancel, event order, lookup of commands.
-#include "AppTestSupport.h"
+#include "tests/app/AppTestSupport.h"
 
-#include "HostCmdFactoryImpl.h"
-#include "HostLookupExports.h"
-#include "HostCore.h"
-#include "HostDocumentManager.h"
-#include "HostServicesImpl.h"
+#include "app/core/HostCmdFactoryImpl.h"
+#include "app/core/HostLookupExports.h"
+#include "hostsdk/core/HostCore.h"
+#include "app/core/HostDocumentManager.h"
+#include "app/core/HostServicesImpl.h"
 
 #include <stdexcept>
 

@@ -1,10 +1,10 @@
 // The configuration: its file across restarts, the Startup list, broken
 // files, the standard folders and the notice of changed options.
-#include "AppTestSupport.h"
+#include "tests/app/AppTestSupport.h"
 
-#include "HostAppPropImpl.h"
-#include "HostConfig.h"
-#include "HostStdDirsImpl.h"
+#include "app/core/HostAppPropImpl.h"
+#include "app/core/HostConfig.h"
+#include "app/core/HostStdDirsImpl.h"
 
 #include <QDirIterator>
 #include <QFile>

@@ -2,11 +2,11 @@
 // palettes module does (lookups by name), registers commands while it
 // loads, and hooks reactors up in initApp. The test reads its counters
 // through dlsym.
-#include "AppInterfaces.h"
-#include "CmdInterfaces.h"
-#include "HostLookup.h"
-#include "HostServices.h"
-#include "OdRxModule.h"
+#include "hostsdk/core/AppInterfaces.h"
+#include "hostsdk/core/CmdInterfaces.h"
+#include "hostsdk/core/HostLookup.h"
+#include "hostsdk/core/HostServices.h"
+#include "sdk/kernel/OdRxModule.h"
 
 #include <dlfcn.h>
 

@@ -1,11 +1,11 @@
 // The exported lookups: what a module finds in any program that links the
 // host core.
-#include "AppTestSupport.h"
+#include "tests/app/AppTestSupport.h"
 
-#include "HostCmdFactoryImpl.h"
-#include "HostCompletionRegistryImpl.h"
-#include "HostLookup.h"
-#include "HostServicesImpl.h"
+#include "app/core/HostCmdFactoryImpl.h"
+#include "app/core/HostCompletionRegistryImpl.h"
+#include "hostsdk/core/HostLookup.h"
+#include "app/core/HostServicesImpl.h"
 
 #include <dlfcn.h>
 

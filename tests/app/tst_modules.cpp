@@ -1,10 +1,10 @@
 // Modules loaded by name: they find the host through its lookups, register
 // commands at load, and go through initApp and uninitApp with the host's
 // starts and shutdowns.
-#include "AppTestSupport.h"
+#include "tests/app/AppTestSupport.h"
 
-#include "HostAppPropImpl.h"
-#include "OdRxModule.h"
+#include "app/core/HostAppPropImpl.h"
+#include "sdk/kernel/OdRxModule.h"
 
 #include <dlfcn.h>
 

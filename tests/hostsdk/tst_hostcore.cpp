@@ -1,11 +1,11 @@
 // The host core's services: path helpers, variants, translation, file tests.
-#include "CRkVariant.h"
-#include "CXStringW.h"
-#include "HostCore.h"
-#include "HostEditorReactor.h"
-#include "RkUnknown.h"
+#include "hostsdk/core/CRkVariant.h"
+#include "hostsdk/core/CXStringW.h"
+#include "hostsdk/core/HostCore.h"
+#include "hostsdk/core/HostEditorReactor.h"
+#include "hostsdk/core/RkUnknown.h"
 
-#include "OdRxClass.h"
+#include "sdk/kernel/OdRxClass.h"
 
 #include <QDir>
 #include <QFile>

@@ -2,9 +2,9 @@
 // the module does at start.
 #pragma once
 
-#include "OdTcCatalogImpl.h"
-#include "OdTcImageList.h"
-#include "OdTcPaletteUi.h"
+#include "model/OdTcCatalogImpl.h"
+#include "images/OdTcImageList.h"
+#include "model/OdTcPaletteUi.h"
 
 namespace tst {
 

@@ -1,10 +1,10 @@
 // Catalog and palette files: a whole tree to a folder and back, the names
 // of palette files, removal, references, and what a failed save leaves.
-#include "ModelClasses.h"
+#include "tests/model/ModelClasses.h"
 
-#include "OdTcCatalogImpl.h"
+#include "model/OdTcCatalogImpl.h"
 
-#include "HostCore.h"
+#include "hostsdk/core/HostCore.h"
 
 #include <QDir>
 #include <QFile>

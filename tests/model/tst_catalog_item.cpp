@@ -1,9 +1,9 @@
 // Catalog items, their display record, reactors, lists and order lists.
-#include "OdTcCatalogFilerImpl.h"
-#include "OdTcCatalogItemImplBase.h"
-#include "OdTcLists.h"
-#include "OdTcPaletteSoftRef.h"
-#include "OdTcTagTable.h"
+#include "persist/OdTcCatalogFilerImpl.h"
+#include "model/OdTcCatalogItemImplBase.h"
+#include "model/OdTcLists.h"
+#include "model/OdTcPaletteSoftRef.h"
+#include "persist/OdTcTagTable.h"
 
 #include <gtest/gtest.h>
 

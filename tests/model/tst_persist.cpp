@@ -1,8 +1,8 @@
 // The persistent object frame: the upward walk, unknown values, clones.
-#include "OdTcPersistImpl.h"
-#include "OdWcstol.h"
+#include "model/OdTcPersistImpl.h"
+#include "sdk/kernel/OdWcstol.h"
 
-#include "OdRxClass.h"
+#include "sdk/kernel/OdRxClass.h"
 
 #include <gtest/gtest.h>
 

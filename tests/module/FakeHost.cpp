@@ -1,5 +1,5 @@
 // The fake host's objects and its exported lookups.
-#include "FakeHost.h"
+#include "tests/module/FakeHost.h"
 
 #include <algorithm>
 

@@ -2,9 +2,9 @@
 // its host, and records what the module does with it.
 #pragma once
 
-#include "AppInterfaces.h"
-#include "CmdInterfaces.h"
-#include "HostServices.h"
+#include "hostsdk/core/AppInterfaces.h"
+#include "hostsdk/core/CmdInterfaces.h"
+#include "hostsdk/core/HostServices.h"
 
 #include <map>
 #include <string>

@@ -1,17 +1,17 @@
 // The module's spine against a host: loading, the commands and exported
 // functions, initApp and uninitApp, the configuration reactor.
-#include "FakeHost.h"
+#include "tests/module/FakeHost.h"
 
-#include "OdTcCatalogImpl.h"
-#include "OdTcModule.h"
-#include "OdTcPaletteManager.h"
-#include "OdTcPersist.h"
-#include "TcCfgChangeReactor.h"
-#include "TcCmd.h"
-#include "TcExports.h"
-#include "TcModuleState.h"
+#include "model/OdTcCatalogImpl.h"
+#include "module/OdTcModule.h"
+#include "module/OdTcPaletteManager.h"
+#include "model/OdTcPersist.h"
+#include "module/TcCfgChangeReactor.h"
+#include "module/TcCmd.h"
+#include "module/TcExports.h"
+#include "module/TcModuleState.h"
 
-#include "OdRxClass.h"
+#include "sdk/kernel/OdRxClass.h"
 
 #include <gtest/gtest.h>
 

@@ -1,10 +1,10 @@
 // The palette manager against real folders: start-up with the configured
 // folders, refreshes after configuration changes, look-ups.
-#include "FakeHost.h"
+#include "tests/module/FakeHost.h"
 
-#include "OdTcPaletteManagerImpl.h"
-#include "TcClassTable.h"
-#include "TcModuleState.h"
+#include "module/OdTcPaletteManagerImpl.h"
+#include "module/TcClassTable.h"
+#include "module/TcModuleState.h"
 
 #include <QDir>
 #include <QFile>

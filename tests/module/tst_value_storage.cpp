@@ -1,8 +1,8 @@
 // Catalog locations: the folder walk over a real tree, the user's folder,
 // and the shared tables.
-#include "FakeHost.h"
+#include "tests/module/FakeHost.h"
 
-#include "OdTcValueStorageImpl.h"
+#include "module/OdTcValueStorageImpl.h"
 
 #include <QDir>
 #include <QTemporaryDir>

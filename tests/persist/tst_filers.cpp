@@ -1,12 +1,12 @@
 // The filers: objects through a one-line XML document and back, and the
 // reading rules in which the two file kinds differ.
-#include "OdTcCatalogFilerImpl.h"
-#include "OdTcPalettePropertiesFilerImpl.h"
-#include "OdTcPersistImpl.h"
-#include "OdTcTagTable.h"
+#include "persist/OdTcCatalogFilerImpl.h"
+#include "persist/OdTcPalettePropertiesFilerImpl.h"
+#include "model/OdTcPersistImpl.h"
+#include "persist/OdTcTagTable.h"
 
-#include "HostCore.h"
-#include "OdRxClass.h"
+#include "hostsdk/core/HostCore.h"
+#include "sdk/kernel/OdRxClass.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // Path rules: relative palette paths, resolving them, and folder tokens.
-#include "TcPathTokens.h"
+#include "persist/TcPathTokens.h"
 
 #include <gtest/gtest.h>
 

@@ -1,13 +1,13 @@
 // Block definitions, and carrying them between drawings with wblock and
 // insert: the records they use come along, the target's own records win.
-#include "OdDbBlockReference.h"
-#include "OdDbBlockTableRecord.h"
-#include "OdDbCurves.h"
-#include "OdDbDatabase.h"
-#include "OdDbLayerTableRecord.h"
-#include "OdDbLinetypeTableRecord.h"
-#include "OdDbText.h"
-#include "OdDbTextStyleTableRecord.h"
+#include "sdk/db/OdDbBlockReference.h"
+#include "sdk/db/OdDbBlockTableRecord.h"
+#include "sdk/db/OdDbCurves.h"
+#include "sdk/db/OdDbDatabase.h"
+#include "sdk/db/OdDbLayerTableRecord.h"
+#include "sdk/db/OdDbLinetypeTableRecord.h"
+#include "sdk/db/OdDbText.h"
+#include "sdk/db/OdDbTextStyleTableRecord.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // Colours and transparency: packing, methods, names and the index table.
-#include "OdCmColor.h"
+#include "sdk/db/OdCmColor.h"
 
 #include <gtest/gtest.h>
 

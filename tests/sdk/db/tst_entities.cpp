@@ -1,15 +1,15 @@
 // Entities: general properties, and the values of the kinds that keep lists
 // (polylines, hatches, splines, multi-line text, attributes, images).
-#include "OdDbBlockReference.h"
-#include "OdDbBlockTableRecord.h"
-#include "OdDbCurves.h"
-#include "OdDbDatabase.h"
-#include "OdDbDictionary.h"
-#include "OdDbHatch.h"
-#include "OdDbLayerTableRecord.h"
-#include "OdDbPolyline.h"
-#include "OdDbRasterImage.h"
-#include "OdDbText.h"
+#include "sdk/db/OdDbBlockReference.h"
+#include "sdk/db/OdDbBlockTableRecord.h"
+#include "sdk/db/OdDbCurves.h"
+#include "sdk/db/OdDbDatabase.h"
+#include "sdk/db/OdDbDictionary.h"
+#include "sdk/db/OdDbHatch.h"
+#include "sdk/db/OdDbLayerTableRecord.h"
+#include "sdk/db/OdDbPolyline.h"
+#include "sdk/db/OdDbRasterImage.h"
+#include "sdk/db/OdDbText.h"
 
 #include <QDir>
 #include <QFile>

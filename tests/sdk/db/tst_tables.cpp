@@ -1,12 +1,12 @@
 // Symbol tables and their records in a new drawing: names, lookups, the
 // drawing's current values, and the values records keep.
-#include "OdDbBlockTableRecord.h"
-#include "OdDbDatabase.h"
-#include "OdDbDimStyleTableRecord.h"
-#include "OdDbLayerTableRecord.h"
-#include "OdDbLinetypeTableRecord.h"
-#include "OdDbTextStyleTableRecord.h"
-#include "OdDmUtil.h"
+#include "sdk/db/OdDbBlockTableRecord.h"
+#include "sdk/db/OdDbDatabase.h"
+#include "sdk/db/OdDbDimStyleTableRecord.h"
+#include "sdk/db/OdDbLayerTableRecord.h"
+#include "sdk/db/OdDbLinetypeTableRecord.h"
+#include "sdk/db/OdDbTextStyleTableRecord.h"
+#include "sdk/db/OdDmUtil.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // ezdxf runs as a separate Python process; fixtures are made once.
-#include "DxfTestSupport.h"
+#include "tests/sdk/dxf/DxfTestSupport.h"
 
 #include <QDir>
 #include <QJsonDocument>

@@ -1,7 +1,7 @@
 // Shared by the DXF tests: ezdxf through Python, and scratch folders.
 #pragma once
 
-#include "OdDxf.h"
+#include "sdk/dxf/OdDxf.h"
 
 #include <QJsonObject>
 #include <QString>

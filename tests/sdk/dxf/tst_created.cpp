@@ -1,19 +1,19 @@
 // A drawing made through the database's own operations, as a host makes
 // one: written out, ezdxf reads every table, entity and value back.
-#include "DxfTestSupport.h"
+#include "tests/sdk/dxf/DxfTestSupport.h"
 
-#include "OdDbBlockReference.h"
-#include "OdDbBlockTableRecord.h"
-#include "OdDbCurves.h"
-#include "OdDbDictionary.h"
-#include "OdDbDimStyleTableRecord.h"
-#include "OdDbHatch.h"
-#include "OdDbLayerTableRecord.h"
-#include "OdDbLinetypeTableRecord.h"
-#include "OdDbPolyline.h"
-#include "OdDbRasterImage.h"
-#include "OdDbText.h"
-#include "OdDbTextStyleTableRecord.h"
+#include "sdk/db/OdDbBlockReference.h"
+#include "sdk/db/OdDbBlockTableRecord.h"
+#include "sdk/db/OdDbCurves.h"
+#include "sdk/db/OdDbDictionary.h"
+#include "sdk/db/OdDbDimStyleTableRecord.h"
+#include "sdk/db/OdDbHatch.h"
+#include "sdk/db/OdDbLayerTableRecord.h"
+#include "sdk/db/OdDbLinetypeTableRecord.h"
+#include "sdk/db/OdDbPolyline.h"
+#include "sdk/db/OdDbRasterImage.h"
+#include "sdk/db/OdDbText.h"
+#include "sdk/db/OdDbTextStyleTableRecord.h"
 
 #include <QDir>
 #include <QJsonArray>

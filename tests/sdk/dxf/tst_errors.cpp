@@ -1,11 +1,11 @@
 // Files that are no DXF, or not whole: clear errors, never a crash; and a
 // write that fails leaves what was there.
-#include "DxfTestSupport.h"
+#include "tests/sdk/dxf/DxfTestSupport.h"
 
-#include "OdDbBlockTableRecord.h"
-#include "OdDbCurves.h"
-#include "OdDbLayerTableRecord.h"
-#include "OdDbText.h"
+#include "sdk/db/OdDbBlockTableRecord.h"
+#include "sdk/db/OdDbCurves.h"
+#include "sdk/db/OdDbLayerTableRecord.h"
+#include "sdk/db/OdDbText.h"
 
 #include <QDir>
 #include <QFile>

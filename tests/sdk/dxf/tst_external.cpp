@@ -1,18 +1,18 @@
 // Real drawings written by others: each reads, writes and reads again to
 // the same text, and ezdxf finds in what we write what it finds in the
 // original and no audit errors.
-#include "DxfTestSupport.h"
+#include "tests/sdk/dxf/DxfTestSupport.h"
 
-#include "OdDbBlockReference.h"
-#include "OdDbBlockTableRecord.h"
-#include "OdDbDimStyleTableRecord.h"
-#include "OdDbDynBlockReference.h"
-#include "OdDbHatch.h"
-#include "OdDbLayerTableRecord.h"
-#include "OdDbLayout.h"
-#include "OdDbLinetypeTableRecord.h"
-#include "OdDbRasterImage.h"
-#include "OdDbXRefMan.h"
+#include "sdk/db/OdDbBlockReference.h"
+#include "sdk/db/OdDbBlockTableRecord.h"
+#include "sdk/db/OdDbDimStyleTableRecord.h"
+#include "sdk/db/OdDbDynBlockReference.h"
+#include "sdk/db/OdDbHatch.h"
+#include "sdk/db/OdDbLayerTableRecord.h"
+#include "sdk/db/OdDbLayout.h"
+#include "sdk/db/OdDbLinetypeTableRecord.h"
+#include "sdk/db/OdDbRasterImage.h"
+#include "sdk/db/OdDbXRefMan.h"
 
 #include <QDir>
 #include <QFileInfo>

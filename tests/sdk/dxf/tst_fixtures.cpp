@@ -1,20 +1,20 @@
 // Drawings written by ezdxf with every table, entity and value the database
 // models: what we read is what ezdxf wrote, and what we write ezdxf reads
 // back alike; blocks travel between drawings with their records.
-#include "DxfTestSupport.h"
+#include "tests/sdk/dxf/DxfTestSupport.h"
 
-#include "OdDbBlockReference.h"
-#include "OdDbBlockTableRecord.h"
-#include "OdDbCurves.h"
-#include "OdDbDimStyleTableRecord.h"
-#include "OdDbHatch.h"
-#include "OdDbLayerTableRecord.h"
-#include "OdDbLinetypeTableRecord.h"
-#include "OdDbPolyline.h"
-#include "OdDbRasterImage.h"
-#include "OdDbText.h"
-#include "OdDbTextStyleTableRecord.h"
-#include "OdDbXRefMan.h"
+#include "sdk/db/OdDbBlockReference.h"
+#include "sdk/db/OdDbBlockTableRecord.h"
+#include "sdk/db/OdDbCurves.h"
+#include "sdk/db/OdDbDimStyleTableRecord.h"
+#include "sdk/db/OdDbHatch.h"
+#include "sdk/db/OdDbLayerTableRecord.h"
+#include "sdk/db/OdDbLinetypeTableRecord.h"
+#include "sdk/db/OdDbPolyline.h"
+#include "sdk/db/OdDbRasterImage.h"
+#include "sdk/db/OdDbText.h"
+#include "sdk/db/OdDbTextStyleTableRecord.h"
+#include "sdk/db/OdDbXRefMan.h"
 
 #include <QDir>
 #include <QJsonArray>

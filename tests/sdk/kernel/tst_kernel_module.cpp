@@ -1,6 +1,6 @@
 // A minimal module library for the loader's tests: it counts its calls in
 // variables the test reads through dlsym.
-#include "OdRxModule.h"
+#include "sdk/kernel/OdRxModule.h"
 
 extern "C" {
 int tst_initCount = 0;

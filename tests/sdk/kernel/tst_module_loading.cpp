@@ -1,5 +1,5 @@
 // Loading modules by name.
-#include "OdRxModule.h"
+#include "sdk/kernel/OdRxModule.h"
 
 #include <dlfcn.h>
 

@@ -1,6 +1,6 @@
 // Run-time classes: registration errors, creation, casts and counts.
-#include "OdArray.h"
-#include "OdRxClass.h"
+#include "sdk/kernel/OdArray.h"
+#include "sdk/kernel/OdRxClass.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 // OdString: comparison by case folding, searches, trimming and formatting.
-#include "OdString.h"
-#include "OdWcstol.h"
+#include "sdk/kernel/OdString.h"
+#include "sdk/kernel/OdWcstol.h"
 
 #include <gtest/gtest.h>
 

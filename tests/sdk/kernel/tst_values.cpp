@@ -1,7 +1,7 @@
 // Variants, time stamps, streams and the system services.
-#include "OdRxSystemServices.h"
-#include "OdTimeStamp.h"
-#include "OdVariant.h"
+#include "sdk/kernel/OdRxSystemServices.h"
+#include "sdk/kernel/OdTimeStamp.h"
+#include "sdk/kernel/OdVariant.h"
 
 #include <QDir>
 #include <QFile>
