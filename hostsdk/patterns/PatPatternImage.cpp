@@ -55,7 +55,10 @@ class FamilyPainter
 public:
   FamilyPainter(QPainter& painter, double extent) : m_painter(painter), m_extent(extent) {}
 
-  void draw(const PatLineFamily& family, double pixelsPerUnit) const
+  // Dots are drawn last, all at once, with a pen of their own.
+  const QList<QPointF>& dots() const { return m_dots; }
+
+  void draw(const PatLineFamily& family, double pixelsPerUnit)
   {
     const double a = family.angle * std::numbers::pi / 180.0;
     const QPointF u(std::cos(a), std::sin(a)), v(-u.y(), u.x());
@@ -110,7 +113,7 @@ private:
   }
 
   void drawDashes(const std::vector<double>& dashes, double period, const QPointF& base, const QPointF& u, double t0,
-                  double t1) const
+                  double t1)
   {
     long count = 0;
     for (double t = std::floor(t0 / period) * period; t < t1 && count < kMaxDashes; ++count) {
@@ -118,7 +121,7 @@ private:
         if (dash > 0.0)
           m_painter.drawLine(base + t * u, base + (t + dash) * u);
         else if (dash == 0.0)
-          m_painter.drawPoint(base + t * u);
+          m_dots.append(base + t * u);
         t += std::fabs(dash);
       }
     }
@@ -126,6 +129,7 @@ private:
 
   QPainter& m_painter;
   double m_extent;
+  QList<QPointF> m_dots;
 };
 
 QImage blank(int size)
@@ -147,14 +151,19 @@ QImage PatPatternImage::draw(const PatPattern& pattern, int size)
   const double scale = pixelsPerUnit(pattern, size);
   QPainter painter(&image);
   painter.setRenderHint(QPainter::Antialiasing, false);
-  // A cosmetic pen: one pixel wide whatever the scale.
+  // Cosmetic pens: one pixel wide whatever the scale; dots grow with the
+  // picture, or a dotted pattern would look empty at 64 pixels.
   painter.setPen(QPen(Qt::black, 0));
   // Pattern units with Y up; the picture shows the square from the origin.
   painter.translate(0.0, size);
   painter.scale(scale, -scale);
-  const FamilyPainter families(painter, size / scale);
+  FamilyPainter families(painter, size / scale);
   for (const PatLineFamily& family : pattern.families())
     families.draw(family, scale);
+  QPen dotPen(Qt::black, std::max(1, size / 32));
+  dotPen.setCosmetic(true);
+  painter.setPen(dotPen);
+  painter.drawPoints(families.dots().constData(), int(families.dots().size()));
   return image;
 }
 
