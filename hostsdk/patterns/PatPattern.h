@@ -5,6 +5,7 @@
 #include "sdk/db/OdGeTypes.h"
 #include "sdk/kernel/OdString.h"
 
+#include <utility>
 #include <vector>
 
 // One line of a pattern definition: a family of parallel lines.

@@ -1,5 +1,5 @@
 // Pictures of patterns: orientation, dashes and dots, clipping to the
-// square, the solid fill and the size limits.
+// square, units, and families too fine or too odd to draw.
 #include "hostsdk/patterns/PatFile.h"
 #include "hostsdk/patterns/PatPatternImage.h"
 
@@ -95,24 +95,6 @@ TEST(PatPatternImage, largeAndTinyUnitsLookAlike)
   // Lines that fall on pixel edges may round the other way.
   EXPECT_GT(blackCount(metric), 100);
   EXPECT_NEAR(blackCount(metric), blackCount(imperial), blackCount(metric) / 10);
-}
-
-TEST(PatPatternImage, solidAndUserDefined)
-{
-  const QImage solid = PatPatternImage::solid(16);
-  EXPECT_EQ(blackCount(solid), 256);
-  const QImage user = PatPatternImage::userDefined(16);
-  EXPECT_GT(blackCount(user), 0);
-  EXPECT_LT(blackCount(user), 128);
-}
-
-TEST(PatPatternImage, sizesOutsideTheLimitsGiveNothing)
-{
-  const PatPattern p = patternOf("*A\n45,0,0,0,1\n");
-  EXPECT_TRUE(PatPatternImage::draw(p, 0).isNull());
-  EXPECT_TRUE(PatPatternImage::draw(p, PatPatternImage::kMaxSize + 1).isNull());
-  EXPECT_TRUE(PatPatternImage::solid(-4).isNull());
-  EXPECT_EQ(PatPatternImage::draw(p, 1).size(), QSize(1, 1));
 }
 
 TEST(PatPatternImage, degenerateFamiliesDoNotHang)
