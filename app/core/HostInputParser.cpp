@@ -119,7 +119,8 @@ OdString matchKeyword(const OdString& text, const std::vector<OdString>& keyword
   }
   if (candidates.size() == 1)
     return candidates.front();
-  for (const OdString& k : candidates)
+  // The shortcut may stand inside the word ("X" of "eXit").
+  for (const OdString& k : keywords)
     if (shortcutOf(k.qstring()).compare(t, Qt::CaseInsensitive) == 0)
       return k;
   return OdString();
