@@ -86,25 +86,4 @@ struct WindowMessages
 
 } // namespace tc
 
-extern "C" {
-
-// The first call makes the module object with the caller's handle and
-// clears the caller's variable; every call answers the same object.
-OdRxModule* odrxCreateModuleObject(void*& instance)
-{
-  if (!tc::moduleObject) {
-    tc::moduleObject = new OdRxWin32Module<tc::OdTcModule>(instance);
-    instance = nullptr;
-  }
-  return tc::moduleObject;
-}
-
-void odrxGetAPIVersion(int& a, int& b, int& c, int& d)
-{
-  a = 4;
-  b = 3;
-  c = 1;
-  d = 0;
-}
-
-}
+ODRX_DEFINE_DYNAMIC_MODULE(tc::OdTcModule, tc::moduleObject)

@@ -3,9 +3,9 @@
 
 #include "persist/OdTcCatalogFilerImpl.h"
 #include "persist/OdTcPalettePropertiesFilerImpl.h"
-#include "persist/TcSafeFile.h"
 
 #include "sdk/kernel/OdRxSystemServices.h"
+#include "sdk/kernel/OdSafeFile.h"
 
 namespace tc {
 
@@ -38,13 +38,13 @@ bool readTcFile(const OdString& path, OdTcPersist* root, TcFileKind kind)
 bool writeTcFile(const OdString& path, OdTcPersist* root, TcFileKind kind)
 {
   try {
-    TcSafeFile file(path);
+    OdSafeFile file(path);
     OdTcFilerPtr filer = filerFor(kind);
     if (!open(filer, file.stream(), root, kind, true))
       return false;
     filer->flush();
-    filer = nullptr; // the filer holds the stream: let go before the rename
-    return file.commit();
+    file.commit();
+    return true;
   } catch (const OdError&) {
     return false;
   }
