@@ -2,10 +2,7 @@
 #include "model/OdTcToolPaletteImpl.h"
 
 #include "model/OdTcCatalog.h"
-#include "persist/OdTcPalettePropertiesFilerImpl.h"
-#include "persist/TcPathTokens.h"
-
-#include "sdk/kernel/OdRxSystemServices.h"
+#include "model/OdTcFileStore.h"
 
 namespace tc {
 
@@ -58,10 +55,8 @@ void OdTcToolPaletteImpl::setFileRevision(const OdString&)
 
 OdString OdTcToolPaletteImpl::href()
 {
-  OdString result;
   OdTcCatalog* owner = catalog();
-  makeRelativePath(owner ? owner->path() : OdString(), m_database->path(), result);
-  return result;
+  return odtcFileStore().makeHref(owner ? owner->path() : OdString(), m_database->path());
 }
 
 void OdTcToolPaletteImpl::setToolOrder(const OdArray<OdString>& ids)

@@ -7,6 +7,10 @@
 #include "host/TcHost.h"
 #include "module/TcModuleState.h"
 #include "host/TcToolCompletion.h"
+#include "images/TcImageClasses.h"
+#include "persist/OdTcTagTable.h"
+#include "persist/TcFileStore.h"
+#include "persist/TcModelTags.h"
 
 #include <dlfcn.h>
 
@@ -18,9 +22,16 @@ void OdTcModule::deleteModule()
   delete this;
 }
 
+namespace {
+TcFileStore g_fileStore;
+}
+
 void OdTcModule::initApp()
 {
   registerModuleClasses();
+  registerModelTags(OdTcTagTable::instance());
+  registerImageClasses(OdTcTagTable::instance());
+  odtcSetFileStore(&g_fileStore);
   valueStorage = OdTcValueStorageImpl::createNew();
   paletteManager = OdTcPaletteManagerImpl::createNew();
   paletteManager->loadCatalogs();
@@ -35,6 +46,8 @@ void OdTcModule::uninitApp()
   unregisterModuleClasses();
   valueStorage = nullptr;
   paletteManager = nullptr;
+  odtcSetFileStore(nullptr);
+  OdTcTagTable::instance().clear();
   if (HostServices* services = hostServices())
     if (HostEdCompletion::Registry* registry = services->completionRegistry())
       registry->removeProvider("tools", nullptr);

@@ -5,7 +5,7 @@
 #include "model/OdTcCatalogImpl.h"
 #include "model/OdTcCatalogItem.h"
 #include "module/OdTcPaletteManager.h"
-#include "images/OdTcImageList.h"
+#include "model/OdTcImageList.h"
 #include "model/OdTcList.h"
 #include "model/OdTcOrderLists.h"
 #include "model/OdTcPaletteSoftRef.h"

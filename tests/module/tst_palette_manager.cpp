@@ -5,6 +5,10 @@
 #include "module/OdTcPaletteManagerImpl.h"
 #include "module/TcClassTable.h"
 #include "module/TcModuleState.h"
+#include "images/TcImageClasses.h"
+#include "persist/OdTcTagTable.h"
+#include "persist/TcFileStore.h"
+#include "persist/TcModelTags.h"
 
 #include <QDir>
 #include <QFile>
@@ -34,6 +38,9 @@ protected:
   {
     if (!OdTcPersist::desc())
       registerModuleClasses();
+    registerModelTags(OdTcTagTable::instance());
+    registerImageClasses(OdTcTagTable::instance());
+    odtcSetFileStore(&m_store);
     fakehost::state().stdDirs.clear();
     fakehost::state().printed.clear();
     fakehost::state().propReactors.clear();
@@ -71,6 +78,7 @@ protected:
     return names;
   }
 
+  TcFileStore m_store;
   QTemporaryDir m_dir;
   OdTcPaletteManagerPtr m_manager;
   RecordingReactor m_reactor;
