@@ -4,7 +4,7 @@
 
 #include "module/OdTcPaletteManagerImpl.h"
 #include "module/TcClassTable.h"
-#include "module/TcModuleState.h"
+
 #include "images/TcImageClasses.h"
 #include "persist/OdTcTagTable.h"
 #include "persist/TcFileStore.h"
@@ -36,21 +36,21 @@ class PaletteManager : public ::testing::Test
 protected:
   void SetUp() override
   {
-    if (!OdTcPersist::desc())
-      registerModuleClasses();
+    fakehost::reset();
+    fakehost::state().userDataFolder = OdString(m_dir.filePath(QStringLiteral("data")));
+    m_classes = std::make_unique<TcClassRegistration>();
     registerModelTags(OdTcTagTable::instance());
     registerImageClasses(OdTcTagTable::instance());
     odtcSetFileStore(&m_store);
-    fakehost::state().stdDirs.clear();
-    fakehost::state().printed.clear();
-    fakehost::state().propReactors.clear();
-    fakehost::state().userDataFolder = OdString(m_dir.filePath(QStringLiteral("data")));
-    valueStorage = OdTcValueStorageImpl::createNew();
+    m_storage = OdTcValueStorageImpl::createNew();
   }
   void TearDown() override
   {
     m_manager = nullptr;
-    valueStorage = nullptr;
+    m_storage = nullptr;
+    odtcSetFileStore(nullptr);
+    OdTcTagTable::instance().clear();
+    m_classes.reset();
   }
 
   OdString userFolder() const { return OdString(m_dir.filePath(QStringLiteral("data/ToolPalette"))); }
@@ -62,7 +62,7 @@ protected:
   void setList(const OdString& list) { fakehost::state().stdDirs["ToolPaletteDir"] = CRkVariant(list); }
   OdTcPaletteManagerImpl* start()
   {
-    m_manager = OdTcPaletteManagerImpl::createNew();
+    m_manager = OdTcPaletteManagerImpl::createNew(m_storage);
     m_manager->addReactor(&m_reactor);
     m_manager->loadCatalogs();
     return static_cast<OdTcPaletteManagerImpl*>(m_manager.get());
@@ -78,7 +78,9 @@ protected:
     return names;
   }
 
+  std::unique_ptr<TcClassRegistration> m_classes;
   TcFileStore m_store;
+  OdTcValueStorageImplPtr m_storage;
   QTemporaryDir m_dir;
   OdTcPaletteManagerPtr m_manager;
   RecordingReactor m_reactor;
