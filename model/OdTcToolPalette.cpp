@@ -4,6 +4,9 @@
 #include "model/OdTcCatalog.h"
 #include "model/OdTcFileStore.h"
 
+#include <algorithm>
+#include <vector>
+
 namespace tc {
 
 ODRX_DEFINE_MEMBERS(OdTcToolPalette, OdTcCatalogItem, ODRX_CREATE_IMPL(OdTcToolPaletteImpl, OdTcToolPalette))
@@ -113,6 +116,39 @@ void OdTcToolPaletteImpl::enableUpdate(bool saveNow)
   m_updateOnAdd = true;
   if (saveNow)
     save();
+}
+
+OdArray<OdTcCatalogItemPtr> OdTcToolPaletteImpl::sortedTools()
+{
+  std::vector<OdTcCatalogItemPtr> tools;
+  auto e = m_database->enumerateTools();
+  while (OdTcCatalogItem* tool = e->next())
+    tools.push_back(OdTcCatalogItemPtr(tool));
+  switch (sortType()) {
+  case 0:
+    std::stable_sort(tools.begin(), tools.end(), [](const OdTcCatalogItemPtr& a, const OdTcCatalogItemPtr& b) {
+      return a->displayName().iCompare(b->displayName()) < 0;
+    });
+    break;
+  case 2: {
+    const OdArray<OdString>& order = m_database->paletteUi()->toolOrder();
+    auto rank = [&](const OdTcCatalogItemPtr& tool) {
+      unsigned at = 0;
+      return order.find(tool->id(), at) ? at : order.size();
+    };
+    std::stable_sort(tools.begin(), tools.end(),
+                     [&](const OdTcCatalogItemPtr& a, const OdTcCatalogItemPtr& b) { return rank(a) < rank(b); });
+    break;
+  }
+  default:
+    // By type, the tools compare by their agents' kinds; items without an
+    // agent compare equal, and keep the palette's order.
+    break;
+  }
+  OdArray<OdTcCatalogItemPtr> sorted;
+  for (const OdTcCatalogItemPtr& tool : tools)
+    sorted.append(tool);
+  return sorted;
 }
 
 OdArray<OdString> OdTcToolPaletteImpl::unsupportedTools()

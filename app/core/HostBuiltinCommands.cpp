@@ -7,7 +7,6 @@
 #include "app/core/HostCommandTable.h"
 #include "app/core/HostDocumentManager.h"
 #include "app/core/HostOutput.h"
-#include "app/core/HostToolPalettes.h"
 
 #include "sdk/dxf/OdDxf.h"
 
@@ -196,7 +195,6 @@ void registerAll()
   add("SaveAsDocument", &saveAsDocument);
   add("Exit", &exitHost);
   add("SETDIR", &setDir);
-  HostToolPalettes::registerCommands();
 }
 
 } // namespace HostBuiltinCommands
