@@ -1,9 +1,9 @@
 // The lookups of the host by name, through the dynamic linker.
 #include "host/TcHost.h"
 
-#include <dlfcn.h>
-
 #include "hostsdk/core/HostLookup.h"
+
+#include <dlfcn.h>
 
 namespace tc {
 
@@ -20,7 +20,7 @@ void* loadedLibrary(const char* name)
   return dlopen(name, RTLD_NOW | RTLD_NOLOAD);
 }
 
-IApp* g_app = nullptr; // counted; kept for the life of the module
+TcHostSession* g_session = nullptr; // not owned: the module state keeps it
 
 } // namespace
 
@@ -75,31 +75,48 @@ CRkPtr<ICmdFactory> hostCmdFactory()
   return factory;
 }
 
-CRkPtr<IApp> hostApp()
+CRkPtr<IApp> lookupHostApp()
 {
-  if (!g_app) {
-    GetAppFn getApp = nullptr;
-    if (void* app = loadedLibrary("libhostapp.so"))
-      getApp = reinterpret_cast<GetAppFn>(dlsym(app, "GetApp"));
-    if (!getApp) {
-      if (auto instance = reinterpret_cast<GetMainDllInstanceFn>(symbolOfProgram("GetMainDllInstance"))) {
-        if (void* library = instance())
-          getApp = reinterpret_cast<GetAppFn>(dlsym(library, "GetApp"));
-      } else if (void* core = loadedLibrary("libhostcore.so")) {
-        // A host without the main-library lookup creates its application
-        // through the core's object factory.
-        using CreateObjectFn = int (*)(const char* clsid, void* outer, const char* iid, void** out);
-        if (auto create = reinterpret_cast<CreateObjectFn>(dlsym(core, "_CreateObjectC@16"))) {
-          void* out = nullptr;
-          if (create("CLSID_APP", nullptr, IApp::kIID, &out) && out)
-            g_app = static_cast<IApp*>(out);
-        }
+  GetAppFn getApp = nullptr;
+  if (void* app = loadedLibrary("libhostapp.so"))
+    getApp = reinterpret_cast<GetAppFn>(dlsym(app, "GetApp"));
+  if (!getApp) {
+    if (auto instance = reinterpret_cast<GetMainDllInstanceFn>(symbolOfProgram("GetMainDllInstance"))) {
+      if (void* library = instance())
+        getApp = reinterpret_cast<GetAppFn>(dlsym(library, "GetApp"));
+    } else if (void* core = loadedLibrary("libhostcore.so")) {
+      // A host without the main-library lookup creates its application
+      // through the core's object factory.
+      using CreateObjectFn = int (*)(const char* clsid, void* outer, const char* iid, void** out);
+      if (auto create = reinterpret_cast<CreateObjectFn>(dlsym(core, "_CreateObjectC@16"))) {
+        void* out = nullptr;
+        if (create("CLSID_APP", nullptr, IApp::kIID, &out) && out)
+          return CRkPtr<IApp>::attach(static_cast<IApp*>(out));
       }
     }
-    if (!g_app && getApp)
-      g_app = getApp();
   }
-  return CRkPtr<IApp>(g_app);
+  return getApp ? CRkPtr<IApp>::attach(getApp()) : CRkPtr<IApp>();
+}
+
+TcHostSession::TcHostSession() : m_previous(std::exchange(g_session, this))
+{
+}
+
+TcHostSession::~TcHostSession()
+{
+  g_session = m_previous;
+}
+
+CRkPtr<IApp> TcHostSession::app()
+{
+  if (!m_app)
+    m_app = lookupHostApp();
+  return m_app;
+}
+
+CRkPtr<IApp> hostApp()
+{
+  return g_session ? g_session->app() : lookupHostApp();
 }
 
 HostCommandOutput* hostCommandOutput()
@@ -133,12 +150,6 @@ bool readStdDir(const char* key, OdString& out)
 OdString userProfileFolder()
 {
   return OdString(qEnvironmentVariable("HOME"));
-}
-
-void hostResetCache()
-{
-  if (IApp* app = std::exchange(g_app, nullptr))
-    app->release();
 }
 
 } // namespace tc

@@ -20,8 +20,30 @@ HostServices* hostServices();
 // A new counted command factory, or null (then nothing gets registered).
 CRkPtr<ICmdFactory> hostCmdFactory();
 
-// The application object, looked up once and cached after the first
-// success. A counted reference for the caller.
+// The application object, looked up anew: "GetApp" of the loaded
+// "hostapp", else of the main library, else the core's object factory.
+CRkPtr<IApp> lookupHostApp();
+
+// What the module keeps of its host while it runs: the application object,
+// looked up at the first success and held until the session ends. Sessions
+// nest; the newest is the current one.
+class TcHostSession
+{
+public:
+  TcHostSession();
+  ~TcHostSession();
+  TcHostSession(const TcHostSession&) = delete;
+  TcHostSession& operator=(const TcHostSession&) = delete;
+
+  CRkPtr<IApp> app();
+
+private:
+  CRkPtr<IApp> m_app;
+  TcHostSession* m_previous;
+};
+
+// The application object: the current session's, else looked up anew. A
+// counted reference for the caller.
 CRkPtr<IApp> hostApp();
 
 // The command line for user messages: the current document's, or the
@@ -44,8 +66,5 @@ bool readStdDir(const char* key, OdString& out);
 // The user's home folder, where Windows has the user profile; empty when
 // it cannot be had.
 OdString userProfileFolder();
-
-// Forgets the cached application object (for a host that restarts).
-void hostResetCache();
 
 } // namespace tc

@@ -1,6 +1,10 @@
 // Tool completion entries.
 #include "host/TcToolCompletion.h"
 
+#include "host/TcGuard.h"
+
+#include "hostsdk/core/HostCore.h"
+
 #include <vector>
 
 namespace tc {
@@ -11,7 +15,7 @@ namespace {
 std::vector<HostEdCompletion::EntryPtr> g_entries;
 
 const HostEdCompletion::Provider g_provider = [](const HostEdCompletion::EntryCallback& callback) {
-  provideEntries(callback);
+  tcGuarded(Supp_Translate("The tools cannot be offered for completion: %s\n"), [&] { provideEntries(callback); });
 };
 } // namespace
 

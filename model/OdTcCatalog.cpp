@@ -1,16 +1,12 @@
 // The catalog: its file, its palettes and groups.
 #include "model/OdTcCatalogImpl.h"
 
-#include "host/TcHost.h"
-#include "persist/TcPathTokens.h"
-#include "persist/TcFileIo.h"
+#include "model/OdTcFileStore.h"
 
-#include "hostsdk/core/CXStringW.h"
+#include "host/TcHost.h"
+
 #include "hostsdk/core/HostCore.h"
 #include "sdk/kernel/OdRxSystemServices.h"
-
-#include <QDir>
-#include <QFile>
 
 namespace tc {
 
@@ -36,11 +32,11 @@ bool OdTcCatalogImpl::setValue(const OdString& name, const OdVariant& value)
   if (name == "FileRevision") {
     m_fileRevision = value.getString();
   } else if (name == "Palettes") {
-    m_loaders = OdSmartPtr<OdTcPaletteLoaderList>(value.getRxObjectPtr());
+    m_loaders = deliveredObject<OdTcPaletteLoaderList>(value);
   } else if (name == "Groups") {
-    m_groups = OdSmartPtr<OdTcGroupList>(value.getRxObjectPtr());
+    m_groups = deliveredObject<OdTcGroupList>(value);
   } else if (name == "CatalogItemOrder") {
-    m_itemOrder = OdSmartPtr<OdTcCatalogItemOrderList>(value.getRxObjectPtr());
+    m_itemOrder = deliveredObject<OdTcCatalogItemOrderList>(value);
   } else {
     return false;
   }
@@ -99,9 +95,7 @@ bool OdTcCatalogImpl::removeChild(const OdString& id)
     while (OdTcCatalogItem* tool = tools->next())
       if (OdTcImageList* images = tool->images())
         images->removeAll(true);
-    // The file goes at once; no later save brings it back.
-    if (Fio_IsFileExist(palette->path()))
-      QFile::remove(palette->path().qstring());
+    removePaletteFile(palette);
     m_loaders->remove(id);
     palette->setRemoved(true);
     fireItemRemoved(palette);
@@ -119,6 +113,27 @@ bool OdTcCatalogImpl::removeChild(const OdString& id)
   return false;
 }
 
+void OdTcCatalogImpl::removePaletteFile(OdTcToolPalette* palette)
+{
+  // The file goes at once; no later save brings it back. A stub may name
+  // any file at all, so only what is surely the palette's goes.
+  OdTcFileStore& store = odtcFileStore();
+  const OdString file = palette->path();
+  if (file.isEmpty() || !store.fileExists(file))
+    return;
+  OdString reason;
+  if (!store.isInCatalogFolder(file, m_path))
+    hostPrint(Supp_Translate("The palette file %s lies outside the catalog's folder: only the palette's entry was "
+                             "removed, and the file was left in place.\n"),
+              file);
+  else if (palette->paletteDatabase()->fileStatus().result != OdTcReadStatus::kRead)
+    hostPrint(Supp_Translate("The palette file %s did not read as a palette: only the palette's entry was removed, "
+                             "and the file was left in place.\n"),
+              file);
+  else if (!store.removeFile(file, reason))
+    hostPrint(Supp_Translate("Cannot delete the palette file %s: %s.\n"), file, reason);
+}
+
 void OdTcCatalogImpl::addMember(OdTcPersist* member)
 {
   if (member && member != this)
@@ -127,12 +142,7 @@ void OdTcCatalogImpl::addMember(OdTcPersist* member)
 
 OdString OdTcCatalogImpl::palettesFolder()
 {
-  const OdString folder = CXStringW(m_path).FilePath().str() + "/Palettes";
-  if (!QDir(folder.qstring()).exists()) {
-    QDir().mkpath(folder.qstring());
-    QDir().mkpath((folder + "/Images").qstring());
-  }
-  return folder;
+  return odtcFileStore().palettesFolder(m_path);
 }
 
 OdTcEnumPtr<OdTcCatalogItem> OdTcCatalogImpl::enumeratePalettes()
@@ -239,9 +249,8 @@ bool OdTcCatalogImpl::unloadPalette(const OdString& id)
 bool OdTcCatalogImpl::load(const OdString& path)
 {
   m_path = path;
-  if (!Fio_IsFileExist(path))
-    return false;
-  if (!readTcFile(path, this, TcFileKind::Catalog))
+  m_fileStatus = odtcFileStore().readFile(path, this, OdTcFileKind::Catalog);
+  if (!m_fileStatus.filerResult)
     return false;
   m_loaders->setParent(this);
   m_groups->setParent(this);
@@ -259,10 +268,10 @@ bool OdTcCatalogImpl::load(const OdString& path)
 
 bool OdTcCatalogImpl::savePalette(OdTcToolPalette* palette)
 {
+  OdTcFileStore& store = odtcFileStore();
   if (OdTcPaletteLoader* loader = findLoader(palette->id()))
-    return palette->save(makeAbsolutePath(loader->href(), m_path));
-  const OdString name = OdString::formatted("%s_%s", palette->displayName(), palette->id());
-  return palette->save(palettesFolder() + "/" + name + ".vtc");
+    return palette->save(store.resolveHref(loader->href(), m_path));
+  return palette->save(store.newPaletteFile(palettesFolder(), palette->displayName(), palette->id()));
 }
 
 bool OdTcCatalogImpl::save(const OdString& path)
@@ -278,7 +287,12 @@ bool OdTcCatalogImpl::save(const OdString& path)
     if (palette->isRemoved())
       continue;
     if (OdTcPaletteLoader* loader = findLoader(palette->id())) {
-      loader->setName(palette->displayName());
+      // Only a rename touches the stub, so that a catalog saved without a
+      // change is the file it was. A palette without a name (a file that
+      // did not read) leaves the stub's name alone.
+      const OdString name = palette->displayName();
+      if (!name.isEmpty() && name != loader->displayName())
+        loader->setName(name);
       continue;
     }
     // A palette saved for the first time gets its stub: same identity, the
@@ -293,7 +307,11 @@ bool OdTcCatalogImpl::save(const OdString& path)
     loader->setHref(palette->href());
     m_loaders->add(loader);
   }
-  return writeTcFile(path, this, TcFileKind::Catalog);
+  OdString reason;
+  if (odtcFileStore().writeFile(path, this, OdTcFileKind::Catalog, reason))
+    return true;
+  hostPrint(Supp_Translate("Cannot save the catalog \"%s\" to %s: %s.\n"), displayName(), path, reason);
+  return false;
 }
 
 OdTcToolPalettePtr OdTcCatalogImpl::importPalette(const OdString& path)

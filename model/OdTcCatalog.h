@@ -45,6 +45,8 @@ public:
   virtual void setDefaultCatalog(bool isDefault) = 0;
   virtual OdTcGroupList* groups() = 0;
   virtual OdTcPaletteLoaderList* loaders() = 0;
+  // How the last load went.
+  virtual OdTcReadStatus fileStatus() const = 0;
 };
 using OdTcCatalogPtr = OdSmartPtr<OdTcCatalog>;
 

@@ -51,11 +51,15 @@ public:
   void setDefaultCatalog(bool isDefault) override { m_defaultCatalog = isDefault; }
   OdTcGroupList* groups() override { return m_groups; }
   OdTcPaletteLoaderList* loaders() override { return m_loaders; }
+  OdTcReadStatus fileStatus() const override { return m_fileStatus; }
 
 private:
   OdTcPaletteLoader* findLoader(const OdString& id) const;
   void takePalette(OdTcToolPalette* palette);
   void removeFromGroups(const OdString& id);
+  // Deletes the file of a palette taken out of the catalog, when it is the
+  // palette's own and lies in the catalog's folder.
+  void removePaletteFile(OdTcToolPalette* palette);
 
   std::vector<OdTcPersistPtr> m_members;
   OdSmartPtr<OdTcPaletteLoaderList> m_loaders;
@@ -65,6 +69,7 @@ private:
   OdString m_path;
   bool m_locked = false;
   bool m_defaultCatalog = false;
+  OdTcReadStatus m_fileStatus;
 };
 
 } // namespace tc

@@ -4,7 +4,7 @@
 #pragma once
 
 #include "model/OdTcCatalogItem.h"
-#include "images/OdTcImageList.h"
+#include "model/OdTcImageList.h"
 #include "model/OdTcOrderLists.h"
 #include "model/OdTcProperties.h"
 
@@ -41,7 +41,7 @@ public:
     } else if (name == "idValue") {
       m_id = value.getString(); // no check of form or of uniqueness
     } else if (name == "Properties") {
-      m_properties = OdTcPropertiesPtr(value.getRxObjectPtr());
+      m_properties = this->template deliveredObject<OdTcProperties>(value);
     } else {
       return false;
     }
@@ -97,8 +97,14 @@ public:
   {
     if (OdTcImageList* list = images())
       list->removeAll(false);
-    for (int kind : {1, 3, 4})
-      addImage(OdTcImageImpl::createNew(kind, path));
+    for (int kind : {1, 3, 4}) {
+      OdTcImagePtr image = OdTcImage::createObject();
+      if (!image)
+        break;
+      image->setSizeClass(kind);
+      image->setSource(path, OdString());
+      addImage(image);
+    }
     setModified();
     return true;
   }

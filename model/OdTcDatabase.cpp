@@ -1,7 +1,11 @@
 // The palette database and its file.
 #include "model/OdTcDatabaseImpl.h"
 
-#include "persist/TcFileIo.h"
+#include "model/OdTcCatalog.h"
+
+#include "host/TcHost.h"
+
+#include "hostsdk/core/HostCore.h"
 
 namespace tc {
 
@@ -28,7 +32,7 @@ bool OdTcDatabaseImpl::setValue(const OdString& name, const OdVariant& value)
   } else if (name == "PaletteStyle") {
     m_paletteStyle = odWcstol(value.getString());
   } else if (name == "Tools") {
-    m_tools = OdSmartPtr<OdTcToolList>(value.getRxObjectPtr());
+    m_tools = deliveredObject<OdTcToolList>(value);
   } else if (name == "PaletteUI") {
     // The record has no run-time class of its own: it is told by its type.
     OdRxObjectPtr object = value.getRxObjectPtr();
@@ -105,13 +109,55 @@ void OdTcDatabaseImpl::addMember(OdTcPersist* member)
 
 bool OdTcDatabaseImpl::load(const OdString& path)
 {
-  return readTcFile(path, this, TcFileKind::Palette);
+  m_fileStatus = odtcFileStore().readFile(path, this, OdTcFileKind::Palette);
+  m_statusFile = path;
+  return m_fileStatus.filerResult;
+}
+
+OdTcReadStatus OdTcDatabaseImpl::fileStatus() const
+{
+  return m_statusFile == m_path ? m_fileStatus : OdTcReadStatus();
 }
 
 bool OdTcDatabaseImpl::save(const OdString& path)
 {
   m_path = path;
-  return writeTcFile(path, this, TcFileKind::Palette);
+  OdTcFileStore& store = odtcFileStore();
+  if (m_statusFile == path && m_fileStatus.result == OdTcReadStatus::kDamaged && store.fileExists(path)) {
+    // Whatever the file held that did not read is the user's: it is kept
+    // before this palette replaces it, and a stub naming any file at all
+    // must not lead to writing outside the catalog.
+    OdTcCatalog* owner = catalog();
+    if (owner && !store.isInCatalogFolder(path, owner->path())) {
+      hostPrint(Supp_Translate("The palette file %s lies outside the catalog's folder and did not read as a palette: "
+                               "it is not written over.\n"),
+                path);
+      return false;
+    }
+    OdString reason;
+    const OdString copy = store.keepAside(path, reason);
+    if (copy.isEmpty()) {
+      hostPrint(Supp_Translate("The palette file %s did not read whole, and no copy of it can be kept (%s): it is "
+                               "not written over.\n"),
+                path, reason);
+      return false;
+    }
+    hostPrint(Supp_Translate("The palette file %s did not read whole; it was kept as %s before the palette was "
+                             "saved over it.\n"),
+              path, copy);
+  }
+  OdString reason;
+  if (!store.writeFile(path, this, OdTcFileKind::Palette, reason)) {
+    hostPrint(Supp_Translate("Cannot save the palette \"%s\" to %s: %s.\n"), displayName(), path, reason);
+    return false;
+  }
+  if (m_statusFile.isEmpty() || m_statusFile == path) {
+    m_fileStatus = OdTcReadStatus();
+    m_fileStatus.result = OdTcReadStatus::kRead;
+    m_fileStatus.filerResult = true;
+    m_statusFile = path;
+  }
+  return true;
 }
 
 } // namespace tc

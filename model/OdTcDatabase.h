@@ -3,6 +3,7 @@
 #pragma once
 
 #include "model/OdTcCatalogItem.h"
+#include "model/OdTcFileStore.h"
 
 namespace tc {
 
@@ -18,7 +19,9 @@ public:
   // Reads the palette file; false when it cannot be opened. The path is
   // not stored: the caller does that.
   virtual bool load(const OdString& path) = 0;
-  // Writes the palette file and remembers the path.
+  // Writes the palette file and remembers the path. A file that did not
+  // read as a palette is kept aside before it is written over, and never
+  // written over outside the catalog's folder.
   virtual bool save(const OdString& path) = 0;
   // Keeps an object attached while a palette file is read.
   virtual void addMember(OdTcPersist* member) = 0;
@@ -32,6 +35,9 @@ public:
   virtual OdString fileRevision() const = 0;
   virtual std::int32_t paletteStyle() const = 0;
   virtual OdTcToolList* tools() = 0;
+  // How the palette's file read; kRead too once this system wrote it.
+  // kNotRead for a palette that has no file of its own yet.
+  virtual OdTcReadStatus fileStatus() const = 0;
 };
 using OdTcDatabasePtr = OdSmartPtr<OdTcDatabase>;
 

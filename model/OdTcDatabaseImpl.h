@@ -40,6 +40,7 @@ public:
   OdString fileRevision() const override { return m_fileRevision; }
   std::int32_t paletteStyle() const override { return m_paletteStyle; }
   OdTcToolList* tools() override { return m_tools; }
+  OdTcReadStatus fileStatus() const override;
 
 private:
   OdString m_path;
@@ -49,6 +50,10 @@ private:
   OdArray<OdTcPersistPtr> m_members;
   OdTcPaletteUiImplPtr m_paletteUi;
   bool m_exporting = false;
+  // What is known of the file `m_statusFile`: a copy written for export
+  // changes nothing of the palette's own file.
+  OdTcReadStatus m_fileStatus;
+  OdString m_statusFile;
 };
 
 } // namespace tc

@@ -2,8 +2,10 @@
 #include "model/OdTcGroupImpl.h"
 
 #include "model/OdTcCatalog.h"
+#include "model/OdTcFileStore.h"
 #include "model/OdTcToolPaletteImpl.h"
-#include "persist/TcPathTokens.h"
+
+#include "host/TcHost.h"
 
 #include "hostsdk/core/HostCore.h"
 
@@ -32,9 +34,9 @@ bool OdTcGroupImpl::setValue(const OdString& name, const OdVariant& value)
   if (name == "ActivePaletteIndex") {
     m_activePaletteIndex = odWcstol(value.getString());
   } else if (name == "Contents") {
-    m_contents = OdSmartPtr<OdTcGroupContentList>(value.getRxObjectPtr());
+    m_contents = deliveredObject<OdTcGroupContentList>(value);
   } else if (name == "CatalogItemOrder") {
-    m_itemOrder = OdSmartPtr<OdTcCatalogItemOrderList>(value.getRxObjectPtr());
+    m_itemOrder = deliveredObject<OdTcCatalogItemOrderList>(value);
   } else {
     return false;
   }
@@ -122,7 +124,7 @@ bool OdTcPaletteLoaderImpl::setValue(const OdString& name, const OdVariant& valu
     return true;
   if (name != "href")
     return false;
-  m_href = pathFromFile(value.getString());
+  m_href = value.getString(); // written back as read, whatever its separators
   return true;
 }
 
@@ -134,11 +136,28 @@ void OdTcPaletteLoaderImpl::writeBody(OdTcFiler* filer)
 
 OdSmartPtr<OdTcToolPalette> OdTcPaletteLoaderImpl::load(const OdString& basePath)
 {
-  const OdString resolved = makeAbsolutePath(m_href, basePath);
-  if (!Fio_IsFileExist(resolved))
-    return OdSmartPtr<OdTcToolPalette>();
+  const OdString resolved = odtcFileStore().resolveHref(m_href, basePath);
   OdSmartPtr<OdTcToolPalette> palette = OdTcToolPaletteImpl::createNew();
-  palette->load(resolved); // a broken file still gives a palette
+  palette->load(resolved);
+  const OdTcReadStatus status = palette->paletteDatabase()->fileStatus();
+  switch (status.result) {
+  case OdTcReadStatus::kRead:
+    break;
+  case OdTcReadStatus::kDamaged:
+    // A broken file still gives a palette. It answers to its stub, so that
+    // the catalog keeps one entry for the file.
+    hostPrint(Supp_Translate("The palette file %s is damaged (%s); the palette shows what could be read.\n"),
+              resolved, status.reason);
+    palette->setId(m_id);
+    break;
+  case OdTcReadStatus::kUnreadable:
+    hostPrint(Supp_Translate("Cannot read the palette file %s: %s. The palette is not shown; the catalog keeps its "
+                             "entry.\n"),
+              resolved, status.reason);
+    return OdSmartPtr<OdTcToolPalette>();
+  default:
+    return OdSmartPtr<OdTcToolPalette>();
+  }
   return palette;
 }
 

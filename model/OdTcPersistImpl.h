@@ -3,7 +3,7 @@
 #pragma once
 
 #include "model/OdTcContainerHooks.h"
-#include "persist/OdTcFiler.h"
+#include "model/OdTcFiler.h"
 #include "model/OdTcPersist.h"
 
 namespace tc {
@@ -89,6 +89,19 @@ public:
   const OdString& label() const { return m_label; }
 
 protected:
+  // The child object a filer delivered, narrowed to T. A text where an
+  // object belongs (an attribute of that name in a broken file) fails as a
+  // cast of the wrong class does, so the file's read fails instead of a
+  // null object staying behind.
+  template <class T>
+  static OdSmartPtr<T> deliveredObject(const OdVariant& value)
+  {
+    OdRxObjectPtr object = value.getRxObjectPtr();
+    if (object.isNull())
+      throw OdError_NotThatKindOfClass();
+    return OdSmartPtr<T>(object);
+  }
+
   OdString m_label;
   OdTcPersist* m_parent = nullptr; // not owned: ownership runs downward
 };

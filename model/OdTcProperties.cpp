@@ -1,7 +1,7 @@
 // The display record of catalog items, and the record of a property value.
 #include "model/OdTcProperties.h"
 
-#include "images/OdTcImageList.h"
+#include "model/OdTcImageList.h"
 
 #include "sdk/kernel/OdTimeStamp.h"
 #include "sdk/kernel/OdWcstol.h"
@@ -24,9 +24,11 @@ OdString OdTcPropertiesImpl::now()
 }
 
 OdTcPropertiesImpl::OdTcPropertiesImpl()
-    : m_created(now()), m_changed(m_created), m_images(OdTcImageListImpl::createNew())
+    : m_created(now()), m_changed(m_created), m_images(OdTcImageList::createObject())
 {
-  m_images->setParent(this);
+  // Null while no subsystem implements pictures: an item then has none.
+  if (m_images)
+    m_images->setParent(this);
 }
 
 OdTcPropertiesPtr OdTcPropertiesImpl::createNew()
@@ -97,7 +99,7 @@ bool OdTcPropertiesImpl::setValue(const OdString& name, const OdVariant& value)
   } else if (name == "modifiedUniversalDateTime") {
     m_changed = value.getString();
   } else if (name == "Images") {
-    m_images = OdTcImageListPtr(value.getRxObjectPtr());
+    m_images = deliveredObject<OdTcImageList>(value);
   } else {
     return false;
   }
@@ -142,8 +144,9 @@ void OdTcPropertiesImpl::copyFrom(const OdRxObject* source)
     m_changed = src->m_changed;
     m_resource = src->m_resource;
     m_src = src->m_src;
-    m_images = OdTcImageListPtr(src->m_images->clone());
-    m_images->setParent(this);
+    m_images = src->m_images ? OdTcImageListPtr(src->m_images->clone()) : OdTcImageListPtr();
+    if (m_images)
+      m_images->setParent(this);
   }
 }
 

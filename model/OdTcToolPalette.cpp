@@ -2,10 +2,10 @@
 #include "model/OdTcToolPaletteImpl.h"
 
 #include "model/OdTcCatalog.h"
-#include "persist/OdTcPalettePropertiesFilerImpl.h"
-#include "persist/TcPathTokens.h"
+#include "model/OdTcFileStore.h"
 
-#include "sdk/kernel/OdRxSystemServices.h"
+#include <algorithm>
+#include <vector>
 
 namespace tc {
 
@@ -58,10 +58,8 @@ void OdTcToolPaletteImpl::setFileRevision(const OdString&)
 
 OdString OdTcToolPaletteImpl::href()
 {
-  OdString result;
   OdTcCatalog* owner = catalog();
-  makeRelativePath(owner ? owner->path() : OdString(), m_database->path(), result);
-  return result;
+  return odtcFileStore().makeHref(owner ? owner->path() : OdString(), m_database->path());
 }
 
 void OdTcToolPaletteImpl::setToolOrder(const OdArray<OdString>& ids)
@@ -118,6 +116,39 @@ void OdTcToolPaletteImpl::enableUpdate(bool saveNow)
   m_updateOnAdd = true;
   if (saveNow)
     save();
+}
+
+OdArray<OdTcCatalogItemPtr> OdTcToolPaletteImpl::sortedTools()
+{
+  std::vector<OdTcCatalogItemPtr> tools;
+  auto e = m_database->enumerateTools();
+  while (OdTcCatalogItem* tool = e->next())
+    tools.push_back(OdTcCatalogItemPtr(tool));
+  switch (sortType()) {
+  case 0:
+    std::stable_sort(tools.begin(), tools.end(), [](const OdTcCatalogItemPtr& a, const OdTcCatalogItemPtr& b) {
+      return a->displayName().iCompare(b->displayName()) < 0;
+    });
+    break;
+  case 2: {
+    const OdArray<OdString>& order = m_database->paletteUi()->toolOrder();
+    auto rank = [&](const OdTcCatalogItemPtr& tool) {
+      unsigned at = 0;
+      return order.find(tool->id(), at) ? at : order.size();
+    };
+    std::stable_sort(tools.begin(), tools.end(),
+                     [&](const OdTcCatalogItemPtr& a, const OdTcCatalogItemPtr& b) { return rank(a) < rank(b); });
+    break;
+  }
+  default:
+    // By type, the tools compare by their agents' kinds; items without an
+    // agent compare equal, and keep the palette's order.
+    break;
+  }
+  OdArray<OdTcCatalogItemPtr> sorted;
+  for (const OdTcCatalogItemPtr& tool : tools)
+    sorted.append(tool);
+  return sorted;
 }
 
 OdArray<OdString> OdTcToolPaletteImpl::unsupportedTools()

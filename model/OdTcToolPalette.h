@@ -43,6 +43,10 @@ public:
   virtual OdTcDatabase* paletteDatabase() = 0;
   virtual std::int32_t sortType() const = 0;
   virtual OdTcPaletteUiImpl* paletteUi() = 0;
+  // The tools in the order the sort type gives them: 0 by name ignoring
+  // case, 1 by type, 2 in the stored order, where tools the order does not
+  // name come last; ties keep the order of the palette.
+  virtual OdArray<OdTcCatalogItemPtr> sortedTools() = 0;
 
   virtual void setNameFromSource(bool fromSource) = 0;
   // Saving after each added tool, off for runs that add many.

@@ -62,6 +62,7 @@ public:
   OdTcDatabase* paletteDatabase() override { return m_database; }
   std::int32_t sortType() const override { return m_database->paletteUi()->sortType(); }
   OdTcPaletteUiImpl* paletteUi() override { return m_database->paletteUi(); }
+  OdArray<OdTcCatalogItemPtr> sortedTools() override;
   void setNameFromSource(bool fromSource) override { m_nameFromSource = fromSource; }
   void disableUpdate() override { m_updateOnAdd = false; }
   void enableUpdate(bool saveNow) override;

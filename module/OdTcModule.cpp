@@ -1,12 +1,13 @@
 // Start and stop of the module.
 #include "module/OdTcModule.h"
 
-#include "module/OdTcPaletteManagerImpl.h"
-
-#include "module/TcClassTable.h"
-#include "host/TcHost.h"
 #include "module/TcModuleState.h"
-#include "host/TcToolCompletion.h"
+
+#include "host/TcGuard.h"
+
+#include "hostsdk/core/HostCore.h"
+
+#include <QString>
 
 #include <dlfcn.h>
 
@@ -20,31 +21,18 @@ void OdTcModule::deleteModule()
 
 void OdTcModule::initApp()
 {
-  registerModuleClasses();
-  valueStorage = OdTcValueStorageImpl::createNew();
-  paletteManager = OdTcPaletteManagerImpl::createNew();
-  paletteManager->loadCatalogs();
-  paletteVisible = false;
-  if (HostServices* services = hostServices())
-    if (HostEdCompletion::Registry* registry = services->completionRegistry())
-      registry->addProvider("tools", toolCompletionProvider());
+  tcGuarded(Supp_Translate("The tool palettes module cannot start: %s\n"), &TcModuleState::start);
 }
 
 void OdTcModule::uninitApp()
 {
-  unregisterModuleClasses();
-  valueStorage = nullptr;
-  paletteManager = nullptr;
-  if (HostServices* services = hostServices())
-    if (HostEdCompletion::Registry* registry = services->completionRegistry())
-      registry->removeProvider("tools", nullptr);
-  hostResetCache();
+  tcGuarded(Supp_Translate("The tool palettes module cannot stop: %s\n"), &TcModuleState::stop);
 }
 
 OdString OdTcModule::moduleName() const
 {
   Dl_info info{};
-  if (dladdr(reinterpret_cast<const void*>(&registerModuleClasses), &info) && info.dli_fname)
+  if (dladdr(reinterpret_cast<const void*>(&TcModuleState::current), &info) && info.dli_fname)
     return OdString(QString::fromLocal8Bit(info.dli_fname));
   return OdString();
 }

@@ -11,11 +11,12 @@ public:
   // Clears the module pointer, then deletes the object.
   void deleteModule() override;
   // Registers the classes, makes the module-wide objects, joins the host's
-  // events, loads the catalogs and offers the tools for completion. Catches
-  // nothing: a failure goes to the host's module loader.
+  // events, loads the catalogs and offers the tools for completion. A
+  // failure is told on the command line, and what was done is undone, so
+  // that a later start can succeed.
   void initApp() override;
-  // Deletes the classes, leaves the host's events, releases the module-wide
-  // objects. Saves nothing.
+  // Releases the module-wide objects, then deletes the classes. Saves
+  // nothing. A failure is told on the command line.
   void uninitApp() override;
   // The library's full file name.
   OdString moduleName() const override;

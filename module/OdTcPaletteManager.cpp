@@ -16,7 +16,7 @@
 namespace tc {
 
 ODRX_DEFINE_MEMBERS(OdTcPaletteManager, OdRxObject,
-                    return OdRxObjectPtr(OdTcPaletteManagerImpl::createNew());)
+                    return OdRxObjectPtr(OdTcPaletteManagerImpl::createNew(valueStorage()));)
 
 namespace {
 constexpr const char* kCatalogFile = "VdTcCatalog.vtc";
@@ -26,16 +26,6 @@ constexpr const char* kCatalogFile = "VdTcCatalog.vtc";
 bool isDirectory(const OdString& entry, const OdString& folder)
 {
   return !entry.isEmpty() && QFileInfo(folder.qstring()).isDir();
-}
-
-OdString userCatalogFolder()
-{
-  return valueStorage ? valueStorage->userCatalogFolder() : OdString();
-}
-
-OdString catalogPathList()
-{
-  return valueStorage ? valueStorage->catalogPaths() : OdString();
 }
 } // namespace
 
@@ -59,22 +49,27 @@ private:
   std::map<OdString, OdTcCatalogPtr>::const_iterator m_it;
 };
 
-OdTcPaletteManagerPtr OdTcPaletteManagerImpl::createNew()
+OdTcPaletteManagerPtr OdTcPaletteManagerImpl::createNew(OdTcValueStorageImpl* storage)
 {
-  return OdRxObjectImpl<OdTcPaletteManagerImpl, OdTcPaletteManager>::createObject();
+  return OdRxObjectImpl<OdTcPaletteManagerImpl, OdTcPaletteManager>::createObject(storage);
 }
 
-OdTcPaletteManagerImpl::OdTcPaletteManagerImpl()
+OdTcPaletteManagerImpl::OdTcPaletteManagerImpl(OdTcValueStorageImpl* storage) : m_valueStorage(storage)
 {
-  m_cfgReactor = new TcCfgChangeReactor([this] { refreshCatalogs(); });
-
-  const OdString user = userCatalogFolder();
-  for (const OdString& entry : splitPathList(catalogPathList())) {
-    if (entry != user)
-      continue;
-    for (const OdString& folder : {user, user + "/Palettes", user + "/Palettes/Images"})
-      if (!Fio_IsFileExist(folder))
-        QDir().mkpath(folder.qstring());
+  m_cfgReactor = CRkPtr<TcCfgChangeReactor>::attach(new TcCfgChangeReactor([this] { refreshCatalogs(); }));
+  try {
+    const OdString user = userCatalogFolder();
+    for (const OdString& entry : splitPathList(catalogPathList())) {
+      if (entry != user)
+        continue;
+      for (const OdString& folder : {user, user + "/Palettes", user + "/Palettes/Images"})
+        if (!Fio_IsFileExist(folder))
+          QDir().mkpath(folder.qstring());
+    }
+  } catch (...) {
+    // The host must not keep a reactor whose manager never came to be.
+    m_cfgReactor->detach();
+    throw;
   }
 
   for (const char* e : {"bmp", "jpeg", "tiff", "jpg", "png"})
@@ -86,7 +81,16 @@ OdTcPaletteManagerImpl::OdTcPaletteManagerImpl()
 OdTcPaletteManagerImpl::~OdTcPaletteManagerImpl()
 {
   m_cfgReactor->detach();
-  m_cfgReactor->release();
+}
+
+OdString OdTcPaletteManagerImpl::userCatalogFolder() const
+{
+  return m_valueStorage ? m_valueStorage->userCatalogFolder() : OdString();
+}
+
+OdString OdTcPaletteManagerImpl::catalogPathList() const
+{
+  return m_valueStorage ? m_valueStorage->catalogPaths() : OdString();
 }
 
 OdArray<OdString> OdTcPaletteManagerImpl::splitPathList(const OdString& list)

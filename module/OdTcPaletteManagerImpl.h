@@ -3,19 +3,20 @@
 
 #include "model/OdTcCatalogImpl.h"
 #include "module/OdTcPaletteManager.h"
+#include "module/OdTcValueStorageImpl.h"
+#include "module/TcCfgChangeReactor.h"
 
 #include <map>
 #include <vector>
 
 namespace tc {
 
-class TcCfgChangeReactor;
-
 class OdTcPaletteManagerImpl : public OdTcPaletteManager
 {
 public:
-  static OdTcPaletteManagerPtr createNew();
-  OdTcPaletteManagerImpl();
+  // `storage` tells where the catalogs live; without one there are none.
+  static OdTcPaletteManagerPtr createNew(OdTcValueStorageImpl* storage);
+  explicit OdTcPaletteManagerImpl(OdTcValueStorageImpl* storage);
   ~OdTcPaletteManagerImpl() override;
 
   void addReactor(OdTcPaletteManagerReactor* reactor) override;
@@ -47,6 +48,8 @@ public:
 private:
   class EnumImpl;
 
+  OdString userCatalogFolder() const;
+  OdString catalogPathList() const;
   OdString defaultCatalogPath() const;
   // A new catalog named after its folder, written at once and read back.
   void createCatalog(const OdString& file);
@@ -67,7 +70,8 @@ private:
   bool m_configEnabled = false;
   OdArray<OdString> m_imageExtensions;
   OdArray<OdString> m_drawingExtensions;
-  TcCfgChangeReactor* m_cfgReactor = nullptr; // counted
+  OdTcValueStorageImplPtr m_valueStorage;
+  CRkPtr<TcCfgChangeReactor> m_cfgReactor;
 };
 
 } // namespace tc

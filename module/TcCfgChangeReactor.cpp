@@ -1,8 +1,12 @@
 // The configuration reactor.
 #include "module/TcCfgChangeReactor.h"
 
-#include "host/TcHost.h"
 #include "module/TcModuleState.h"
+
+#include "host/TcGuard.h"
+#include "host/TcHost.h"
+
+#include "hostsdk/core/HostCore.h"
 
 namespace tc {
 
@@ -26,17 +30,15 @@ void TcCfgChangeReactor::detach()
 
 int TcCfgChangeReactor::onChange(const char*, const CRkVariant&)
 {
-  if (m_refreshCatalogs)
-    m_refreshCatalogs();
-  if (paletteVisible && paletteSet)
-    if (auto* list = paletteSetView<ITcUiListView>(kITcUiListView))
-      list->refresh();
+  tcGuarded(Supp_Translate("The tool palettes could not follow the change of the options: %s\n"), [this] {
+    if (m_refreshCatalogs)
+      m_refreshCatalogs();
+    const TcModuleState* state = TcModuleState::current();
+    if (state && state->paletteVisible())
+      if (auto* list = state->paletteSetView<ITcUiListView>(kITcUiListView))
+        list->refresh();
+  });
   return 1;
-}
-
-bool TcCfgChangeReactor::queryInterface(const char* iid, void** out)
-{
-  return CRkUnknownImpl<IPropReactor>::queryInterface(iid, out);
 }
 
 } // namespace tc

@@ -16,9 +16,8 @@ public:
   explicit TcCfgChangeReactor(std::function<void()> refreshCatalogs);
 
   // Ignores what changed: refreshes the catalogs, then the list view of a
-  // visible window. Returns 1.
+  // visible window. Returns 1; a failure is told on the command line.
   int onChange(const char* property, const CRkVariant& value) override;
-  bool queryInterface(const char* iid, void** out) override;
 
   // Stops listening; the host drops its reference.
   void detach();

@@ -1,103 +1,126 @@
-// The class table. Each class of the catalog model takes its row here when
-// it comes into the module.
+// The class table. Each class of the module takes its row here when it
+// comes into the module, and its place in the order of deletion.
 #include "module/TcClassTable.h"
 
 #include "model/OdTcCatalogImpl.h"
-#include "model/OdTcCatalogItem.h"
-#include "module/OdTcPaletteManager.h"
-#include "images/OdTcImageList.h"
-#include "model/OdTcList.h"
+#include "model/OdTcImageList.h"
+#include "model/OdTcLists.h"
 #include "model/OdTcOrderLists.h"
-#include "model/OdTcPaletteSoftRef.h"
+#include "model/OdTcPaletteUi.h"
 #include "model/OdTcProperties.h"
+#include "module/OdTcPaletteManager.h"
+
+#include "sdk/kernel/OdRxClass.h"
+
+#include <cstring>
+#include <vector>
 
 namespace tc {
 
 namespace {
-template <class C>
-TcClassRow row(const char* name)
+
+struct Row
 {
-  return TcClassRow{name, &C::rxInit, &C::rxUninit, &C::desc};
+  const char* name;
+  void (*rxInit)();
+  void (*rxUninit)();
+  OdRxClass* (*desc)();
+};
+
+template <class C>
+Row row(const char* name)
+{
+  return Row{name, &C::rxInit, &C::rxUninit, &C::desc};
 }
+
+// In the order of registration: parents before children.
+const std::vector<Row>& rows()
+{
+  static const std::vector<Row> table = {
+      row<OdTcPersist>("OdTcPersist"),
+      row<OdTcCatalogItem>("OdTcCatalogItem"),
+      row<OdTcDatabase>("OdTcDatabase"),
+      row<OdTcToolPalette>("OdTcToolPalette"),
+      row<OdTcPaletteManager>("OdTcPaletteManager"),
+      row<OdTcPaletteUiProperties>("OdTcPaletteUiProperties"),
+      row<OdTcImageList>("OdTcImageList"),
+      row<OdTcImage>("OdTcImage"),
+      row<OdTcProperties>("OdTcProperties"),
+      row<OdTcPropertyBasicInfo>("OdTcPropertyBasicInfo"),
+      row<OdTcToolOrderList>("OdTcToolOrderList"),
+      row<OdTcCatalogItemOrderList>("OdTcCatalogItemOrderList"),
+      row<OdTcCatalogView>("OdTcCatalogView"),
+      row<OdTcList>("OdTcList"),
+      row<OdTcToolList>("OdTcToolList"),
+      row<OdTcCatalog>("OdTcCatalog"),
+      row<OdTcGroup>("OdTcGroup"),
+      row<OdTcPaletteLoader>("OdTcPaletteLoader"),
+      row<OdTcPaletteLoaderList>("OdTcPaletteLoaderList"),
+      row<OdTcGroupContentList>("OdTcGroupContentList"),
+      row<OdTcPaletteSoftRef>("OdTcPaletteSoftRef"),
+      row<OdTcGroupList>("OdTcGroupList"),
+      row<OdTcCatalogItemList>("OdTcCatalogItemList"),
+  };
+  return table;
+}
+
+// The order of deletion. OdTcDatabase stands first in place of OdTcTool,
+// which comes with the tools.
+constexpr const char* kDeletionOrder[] = {
+    "OdTcDatabase", "OdTcPersist", "OdTcToolPalette", "OdTcPaletteManager", "OdTcPaletteUiProperties",
+    "OdTcImageList", "OdTcImage", "OdTcProperties", "OdTcPropertyBasicInfo", "OdTcToolOrderList",
+    "OdTcCatalogItemOrderList", "OdTcCatalogView", "OdTcCatalogItem", "OdTcCatalog", "OdTcGroup", "OdTcList",
+    "OdTcToolList", "OdTcPaletteLoader", "OdTcPaletteLoaderList", "OdTcGroupContentList", "OdTcPaletteSoftRef",
+    "OdTcGroupList", "OdTcCatalogItemList"};
+
+const Row& rowNamed(const char* name)
+{
+  for (const Row& r : rows())
+    if (std::strcmp(r.name, name) == 0)
+      return r;
+  throw OdError(eNotRegistered, OdString("no such class in the module: ") + name);
+}
+
 } // namespace
 
-const std::vector<TcClassRow>& classRegistrationOrder()
+TcClassRegistration::TcClassRegistration()
 {
-  static const std::vector<TcClassRow> rows = {
-      row<OdTcPersist>("OdTcPersist"),
-      row<OdTcCatalogItem>("OdTcCatalogItem"),
-      row<OdTcDatabase>("OdTcDatabase"),
-      row<OdTcToolPalette>("OdTcToolPalette"),
-      row<OdTcPaletteManager>("OdTcPaletteManager"),
-      row<OdTcPaletteUiProperties>("OdTcPaletteUiProperties"),
-      row<OdTcImageList>("OdTcImageList"),
-      row<OdTcImage>("OdTcImage"),
-      row<OdTcProperties>("OdTcProperties"),
-      row<OdTcPropertyBasicInfo>("OdTcPropertyBasicInfo"),
-      row<OdTcToolOrderList>("OdTcToolOrderList"),
-      row<OdTcCatalogItemOrderList>("OdTcCatalogItemOrderList"),
-      row<OdTcCatalogView>("OdTcCatalogView"),
-      row<OdTcList>("OdTcList"),
-      row<OdTcToolList>("OdTcToolList"),
-      row<OdTcCatalog>("OdTcCatalog"),
-      row<OdTcGroup>("OdTcGroup"),
-      row<OdTcPaletteLoader>("OdTcPaletteLoader"),
-      row<OdTcPaletteLoaderList>("OdTcPaletteLoaderList"),
-      row<OdTcGroupContentList>("OdTcGroupContentList"),
-      row<OdTcPaletteSoftRef>("OdTcPaletteSoftRef"),
-      row<OdTcGroupList>("OdTcGroupList"),
-      row<OdTcCatalogItemList>("OdTcCatalogItemList"),
-  };
-  return rows;
+  std::size_t done = 0;
+  try {
+    for (; done < rows().size(); ++done)
+      rows()[done].rxInit();
+  } catch (...) {
+    while (done > 0)
+      rows()[--done].rxUninit();
+    throw;
+  }
 }
 
-const std::vector<TcClassRow>& classDeletionOrder()
+TcClassRegistration::~TcClassRegistration()
 {
-  static const std::vector<TcClassRow> rows = {
-      row<OdTcDatabase>("OdTcDatabase"),
-      row<OdTcPersist>("OdTcPersist"),
-      row<OdTcToolPalette>("OdTcToolPalette"),
-      row<OdTcPaletteManager>("OdTcPaletteManager"),
-      row<OdTcPaletteUiProperties>("OdTcPaletteUiProperties"),
-      row<OdTcImageList>("OdTcImageList"),
-      row<OdTcImage>("OdTcImage"),
-      row<OdTcProperties>("OdTcProperties"),
-      row<OdTcPropertyBasicInfo>("OdTcPropertyBasicInfo"),
-      row<OdTcToolOrderList>("OdTcToolOrderList"),
-      row<OdTcCatalogItemOrderList>("OdTcCatalogItemOrderList"),
-      row<OdTcCatalogView>("OdTcCatalogView"),
-      row<OdTcCatalogItem>("OdTcCatalogItem"),
-      row<OdTcCatalog>("OdTcCatalog"),
-      row<OdTcGroup>("OdTcGroup"),
-      row<OdTcList>("OdTcList"),
-      row<OdTcToolList>("OdTcToolList"),
-      row<OdTcPaletteLoader>("OdTcPaletteLoader"),
-      row<OdTcPaletteLoaderList>("OdTcPaletteLoaderList"),
-      row<OdTcGroupContentList>("OdTcGroupContentList"),
-      row<OdTcPaletteSoftRef>("OdTcPaletteSoftRef"),
-      row<OdTcGroupList>("OdTcGroupList"),
-      row<OdTcCatalogItemList>("OdTcCatalogItemList"),
-  };
-  return rows;
+  for (const Row& r : rows()) {
+    if (r.desc()) {
+      try {
+        r.rxUninit();
+      } catch (...) {
+      }
+    }
+  }
 }
 
-void registerModuleClasses()
+void TcClassRegistration::unregisterAll()
 {
-  for (const TcClassRow& r : classRegistrationOrder())
-    r.rxInit();
-}
-
-void unregisterModuleClasses()
-{
-  const auto& rows = classDeletionOrder();
-  if (rows.empty() || !rows.front().desc())
-    throw OdError(eNotRegistered, OdString("class not registered: ") + (rows.empty() ? "" : rows.front().name));
-  for (const TcClassRow& r : rows) {
-    OdRxClass* desc = r.desc();
-    if (!desc)
-      throw OdError(eNotRegistered, OdString("class not registered: ") + r.name);
+  for (const char* name : kDeletionOrder) {
+    const Row& r = rowNamed(name);
+    if (!r.desc())
+      throw OdError(eNotRegistered, OdString("class not registered: ") + name);
     r.rxUninit();
   }
+}
+
+bool TcClassRegistration::firstOfDeletionRegistered()
+{
+  return rowNamed(kDeletionOrder[0]).desc() != nullptr;
 }
 
 } // namespace tc

@@ -1,31 +1,30 @@
-// The run-time classes of the module: registered by initApp in one order,
-// deleted by uninitApp in another.
+// The run-time classes of the module: registered in one order when it
+// starts, deleted in another when it stops.
 #pragma once
-
-#include "sdk/kernel/OdRxClass.h"
-
-#include <vector>
 
 namespace tc {
 
-struct TcClassRow
+// The classes of the module, registered for as long as the object lives.
+class TcClassRegistration
 {
-  const char* name;
-  void (*rxInit)();
-  void (*rxUninit)();
-  OdRxClass* (*desc)();
+public:
+  // rxInit of every class, parents before children. A failure (313 for a
+  // class registered already) deletes what this registered and goes on to
+  // the caller.
+  TcClassRegistration();
+  // Deletes, without a word, whatever unregisterAll left.
+  ~TcClassRegistration();
+  TcClassRegistration(const TcClassRegistration&) = delete;
+  TcClassRegistration& operator=(const TcClassRegistration&) = delete;
+
+  // Deletes the class descriptions in the order of deletion, which differs
+  // on purpose from that of registration. A null description on the way
+  // throws OdError 255 and ends the deletion there.
+  void unregisterAll();
+
+  // Whether the first class of the order of deletion is registered: what
+  // the module checks before it stops.
+  static bool firstOfDeletionRegistered();
 };
-
-// Parents before children.
-const std::vector<TcClassRow>& classRegistrationOrder();
-// The order of uninitApp, which differs on purpose from registration.
-const std::vector<TcClassRow>& classDeletionOrder();
-
-// rxInit of every class in order; an exception (313 for a class registered
-// already) leaves the classes before it registered.
-void registerModuleClasses();
-// Throws OdError 255 at once when the first class of the deletion order is
-// not registered, and stops at the first null description on the way.
-void unregisterModuleClasses();
 
 } // namespace tc

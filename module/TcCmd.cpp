@@ -2,9 +2,11 @@
 // hide or show it; the "Startup" list remembers the choice between runs.
 #include "module/TcCmd.h"
 
-#include "host/TcHost.h"
 #include "module/TcModuleState.h"
 #include "module/TcStartupList.h"
+
+#include "host/TcGuard.h"
+#include "host/TcHost.h"
 
 #include "hostsdk/core/HostCore.h"
 
@@ -12,24 +14,18 @@ namespace tc {
 
 int TcCmd::create(ICmdProcess** out, void*)
 {
-  *out = new TcCmd;
-  return 1;
-}
-
-TcCmd::~TcCmd()
-{
-  if (m_context)
-    m_context->release();
-}
-
-bool TcCmd::queryInterface(const char* iid, void** out)
-{
-  return CRkUnknownImpl<ICmdProcess>::queryInterface(iid, out);
+  try {
+    *out = new TcCmd;
+    return 1;
+  } catch (...) {
+    *out = nullptr; // the host tells the user that no command came
+    return 0;
+  }
 }
 
 namespace {
 
-void createPaletteSet()
+void createPaletteSet(TcModuleState& state)
 {
   HostServices* services = hostServices();
   QWidget* parent = services ? services->mainWindow() : nullptr;
@@ -39,37 +35,46 @@ void createPaletteSet()
                              "the palettes stay available on the command line.\n"));
     return;
   }
-  paletteSet = creator(parent);
-  if (!paletteSet)
+  ITcUiPaletteSet* window = creator(parent);
+  if (!window)
     return;
-  paletteSet->show(true);
-  if (auto* tree = paletteSetView<ITcUiTreeView>(kITcUiTreeView))
+  state.setPaletteSet(window);
+  window->show(true);
+  if (auto* tree = state.paletteSetView<ITcUiTreeView>(kITcUiTreeView))
     tree->loadTree();
-  paletteVisible = true;
+  state.setPaletteVisible(true);
+}
+
+void toggle()
+{
+  TcModuleState& state = startedModule();
+  ITcUiPaletteSet* window = state.paletteSet();
+  if (!window) {
+    createPaletteSet(state);
+    writeStartupEntry(true);
+  } else if (!state.paletteVisible()) {
+    window->show(true);
+    state.setPaletteVisible(true);
+    writeStartupEntry(true);
+  } else {
+    window->show(false);
+    state.setPaletteVisible(false);
+    writeStartupEntry(false);
+  }
 }
 
 } // namespace
 
 int TcCmd::run(IRkUnknown*)
 {
-  if (!paletteSet) {
-    createPaletteSet();
-    writeStartupEntry(true);
-  } else if (!paletteVisible) {
-    paletteSet->show(true);
-    paletteVisible = true;
-    writeStartupEntry(true);
-  } else {
-    paletteSet->show(false);
-    paletteVisible = false;
-    writeStartupEntry(false);
-  }
+  tcGuarded(Supp_Translate("ToolPalettes failed: %s\n"), &toggle);
   return 0;
 }
 
 int TcCmd::getState()
 {
-  return (paletteSet && paletteVisible) ? 3 : 1;
+  const TcModuleState* state = TcModuleState::current();
+  return (state && state->paletteSet() && state->paletteVisible()) ? 3 : 1;
 }
 
 int TcCmd::getContext(IRkUnknown** out)
@@ -77,17 +82,13 @@ int TcCmd::getContext(IRkUnknown** out)
   if (!m_context)
     return 0;
   m_context->addRef();
-  *out = m_context;
+  *out = m_context.get();
   return 1;
 }
 
 void TcCmd::setContext(IRkUnknown* context)
 {
-  if (context)
-    context->addRef();
-  if (m_context)
-    m_context->release();
-  m_context = context;
+  m_context = CRkPtr<IRkUnknown>(context);
 }
 
 } // namespace tc

@@ -17,13 +17,9 @@ public:
   int getState() override;
   int getContext(IRkUnknown** out) override;
   void setContext(IRkUnknown* context) override;
-  bool queryInterface(const char* iid, void** out) override;
-
-protected:
-  ~TcCmd() override;
 
 private:
-  IRkUnknown* m_context = nullptr; // counted
+  CRkPtr<IRkUnknown> m_context;
 };
 
 } // namespace tc

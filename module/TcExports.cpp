@@ -3,43 +3,68 @@
 
 #include "module/TcModuleState.h"
 
-#include "model/OdTcCatalogItem.h"
-#include "module/OdTcPaletteManager.h"
+#include "host/TcGuard.h"
+
+#include "hostsdk/core/HostCore.h"
+
+#include <string>
 
 namespace tc {
 
+namespace {
+ITcUiTreeView* tree()
+{
+  const TcModuleState* state = TcModuleState::current();
+  return state ? state->paletteSetView<ITcUiTreeView>(kITcUiTreeView) : nullptr;
+}
+
+OdString failure(const char* function)
+{
+  return OdString(function) + Supp_Translate(" failed: %s\n");
+}
+} // namespace
+
 OdTcPaletteManager* odtcToolPaletteManager()
 {
-  return paletteManager.get();
+  return paletteManager();
 }
 
 bool odtcToolPaletteVisible()
 {
-  return paletteVisible;
+  const TcModuleState* state = TcModuleState::current();
+  return state && state->paletteVisible();
 }
 
 OdTcCatalogItem* odtcGetSelectedItem()
 {
-  auto* tree = paletteSetView<ITcUiTreeView>(kITcUiTreeView);
-  return tree ? tree->selectedItem() : nullptr;
+  OdTcCatalogItem* item = nullptr;
+  tcGuarded(failure("odtcGetSelectedItem"), [&] {
+    if (ITcUiTreeView* view = tree())
+      item = view->selectedItem();
+  });
+  return item;
 }
 
 void odtcInitReactor(OdTcCatalogItem* item)
 {
-  auto* tree = paletteSetView<ITcUiTreeView>(kITcUiTreeView);
-  if (!tree || !item)
-    return;
-  if (OdTcCatalogItemReactor* reactor = tree->catalogItemReactor())
-    item->addReactor(reactor);
+  tcGuarded(failure("odtcInitReactor"), [&] {
+    ITcUiTreeView* view = tree();
+    if (!view || !item)
+      return;
+    if (OdTcCatalogItemReactor* reactor = view->catalogItemReactor())
+      item->addReactor(reactor);
+  });
 }
 
 void odtcUninitReactor(OdTcCatalogItem* item)
 {
-  auto* tree = paletteSetView<ITcUiTreeView>(kITcUiTreeView);
-  if (!tree || !item)
-    return;
-  if (OdTcCatalogItemReactor* reactor = tree->catalogItemReactor())
-    item->removeReactor(reactor);
+  tcGuarded(failure("odtcUninitReactor"), [&] {
+    ITcUiTreeView* view = tree();
+    if (!view || !item)
+      return;
+    if (OdTcCatalogItemReactor* reactor = view->catalogItemReactor())
+      item->removeReactor(reactor);
+  });
 }
 
 } // namespace tc
@@ -47,6 +72,10 @@ void odtcUninitReactor(OdTcCatalogItem* item)
 const char* odtcCatalogPathsUtf8()
 {
   static std::string text;
-  text = tc::valueStorage ? tc::valueStorage->catalogPaths().toUtf8() : std::string();
+  tc::tcGuarded(tc::failure("odtcCatalogPathsUtf8"), [] {
+    text.clear();
+    if (tc::OdTcValueStorageImpl* storage = tc::valueStorage())
+      text = storage->catalogPaths().toUtf8();
+  });
   return text.c_str();
 }

@@ -1,4 +1,5 @@
-// The functions that other host modules call.
+// The functions that other host modules call. None lets an error through:
+// a failure is told on the command line and gives the empty answer.
 #pragma once
 
 namespace tc {
@@ -6,7 +7,7 @@ namespace tc {
 class OdTcPaletteManager;
 class OdTcCatalogItem;
 
-// The palette manager, or null before initApp.
+// The palette manager, or null while the module is not started.
 OdTcPaletteManager* odtcToolPaletteManager();
 bool odtcToolPaletteVisible();
 // The item selected in the palette window's tree; null without the window.
@@ -18,12 +19,8 @@ void odtcUninitReactor(OdTcCatalogItem* item);
 } // namespace tc
 
 extern "C" {
-// For the reference host's listing command: the catalog folders as the
-// module finds them, ";"-separated, in UTF-8. Empty before initApp. The
-// text lives until the next call.
+// The catalog folders as the module finds them, ";"-separated, in UTF-8:
+// what a host shows as the module's paths. Empty while the module is not
+// started. The text lives until the next call.
 const char* odtcCatalogPathsUtf8();
 }
-
-namespace tc {
-
-} // namespace tc

@@ -1,10 +1,15 @@
 // The library's entry: what happens while it loads and unloads, and the two
-// functions that the host's module loader calls.
+// functions that the host's module loader calls. Nothing here lets an error
+// through to the process that loads the library.
 #include "module/OdTcModule.h"
 #include "module/TcCmd.h"
-#include "tools/TcExecuteTool.h"
-#include "host/TcHost.h"
 #include "module/TcModuleState.h"
+
+#include "host/TcGuard.h"
+#include "host/TcHost.h"
+#include "tools/TcExecuteTool.h"
+
+#include "hostsdk/core/HostCore.h"
 
 #include <QEvent>
 
@@ -26,28 +31,33 @@ struct LibraryEntry
 
   LibraryEntry()
   {
-    Dl_info info{};
-    if (dladdr(reinterpret_cast<void*>(&libraryAnchor), &info) && info.dli_fname)
-      instance = dlopen(info.dli_fname, RTLD_NOW | RTLD_NOLOAD);
-    // The host's translation of this module's resources, when it has one.
-    using InitFn = void (*)(void*);
-    for (const char* lib : {"libhostcore.so", "libhosttranslate.so"}) {
-      if (void* h = dlopen(lib, RTLD_NOW | RTLD_NOLOAD)) {
-        if (auto init = reinterpret_cast<InitFn>(dlsym(h, "_InitResTranslation"))) {
-          init(instance);
-          break;
+    tcGuarded(Supp_Translate("The tool palettes module cannot find its library: %s\n"), [this] {
+      Dl_info info{};
+      if (dladdr(reinterpret_cast<void*>(&libraryAnchor), &info) && info.dli_fname)
+        instance = dlopen(info.dli_fname, RTLD_NOW | RTLD_NOLOAD);
+      // The host's translation of this module's resources, when it has one.
+      using InitFn = void (*)(void*);
+      for (const char* lib : {"libhostcore.so", "libhosttranslate.so"}) {
+        if (void* h = dlopen(lib, RTLD_NOW | RTLD_NOLOAD)) {
+          if (auto init = reinterpret_cast<InitFn>(dlsym(h, "_InitResTranslation"))) {
+            init(instance);
+            break;
+          }
         }
       }
-    }
-    if (instance)
-      afxMain = reinterpret_cast<RkAfxDllMainFn>(dlsym(instance, "__RkAfxDllMain@8"));
-    if (afxMain)
-      afxMain(instance, 1);
+      if (instance)
+        afxMain = reinterpret_cast<RkAfxDllMainFn>(dlsym(instance, "__RkAfxDllMain@8"));
+      if (afxMain)
+        afxMain(instance, 1);
+    });
   }
   ~LibraryEntry()
   {
-    if (afxMain)
-      afxMain(instance, 0);
+    try {
+      if (afxMain)
+        afxMain(instance, 0);
+    } catch (...) {
+    }
   }
   static void libraryAnchor() {}
 } g_libraryEntry;
@@ -60,16 +70,23 @@ const OdString kUserArrowMarker("%userArrow%");
 
 namespace {
 
+void executeTool()
+{
+  tcGuarded(Supp_Translate("__executetool failed: %s\n"), &executeToolCommand);
+}
+
 // Registers the two commands with the host's factory; without a factory the
 // library loads all the same.
 struct CommandRegistration
 {
   CommandRegistration()
   {
-    if (CRkPtr<ICmdFactory> factory = hostCmdFactory())
-      factory->registerCommandClass("ToolPalettes", &TcCmd::create, "HOST", 0, 0, 0);
-    if (CRkPtr<ICmdFactory> factory = hostCmdFactory())
-      factory->registerCommandFunction("HOST", "__executetool", "__executetool", 0, &executeToolCommand, 0, 0);
+    tcGuarded(Supp_Translate("The commands of the tool palettes module cannot be registered: %s\n"), [] {
+      if (CRkPtr<ICmdFactory> factory = hostCmdFactory())
+        factory->registerCommandClass("ToolPalettes", &TcCmd::create, "HOST", 0, 0, 0);
+      if (CRkPtr<ICmdFactory> factory = hostCmdFactory())
+        factory->registerCommandFunction("HOST", "__executetool", "__executetool", 0, &executeTool, 0, 0);
+    });
   }
 } g_commandRegistration;
 
@@ -77,8 +94,10 @@ struct WindowMessages
 {
   WindowMessages()
   {
-    wmTcCustomize = QEvent::registerEventType();
-    wmTcPaletteClosed = QEvent::registerEventType();
+    tcGuarded(Supp_Translate("The messages of the tool palettes window cannot be registered: %s\n"), [] {
+      wmTcCustomize = QEvent::registerEventType();
+      wmTcPaletteClosed = QEvent::registerEventType();
+    });
   }
 } g_windowMessages;
 
@@ -86,25 +105,4 @@ struct WindowMessages
 
 } // namespace tc
 
-extern "C" {
-
-// The first call makes the module object with the caller's handle and
-// clears the caller's variable; every call answers the same object.
-OdRxModule* odrxCreateModuleObject(void*& instance)
-{
-  if (!tc::moduleObject) {
-    tc::moduleObject = new OdRxWin32Module<tc::OdTcModule>(instance);
-    instance = nullptr;
-  }
-  return tc::moduleObject;
-}
-
-void odrxGetAPIVersion(int& a, int& b, int& c, int& d)
-{
-  a = 4;
-  b = 3;
-  c = 1;
-  d = 0;
-}
-
-}
+ODRX_DEFINE_DYNAMIC_MODULE(tc::OdTcModule, tc::moduleObject)

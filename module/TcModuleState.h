@@ -1,25 +1,93 @@
-// The module-wide state: set up by initApp or by the first run of the
-// command "ToolPalettes".
+// The module's state between initApp and uninitApp: everything the module
+// holds, owned by one object, made in the order of the start and dropped
+// in the order of the stop.
 #pragma once
 
+#include "module/OdTcPaletteManager.h"
 #include "module/OdTcValueStorageImpl.h"
+#include "module/TcClassTable.h"
 #include "module/TcUiInterfaces.h"
+
+#include "host/TcHost.h"
+#include "persist/TcFileStore.h"
+
+#include <memory>
 
 class OdRxModule;
 class QWidget;
 
 namespace tc {
 
-// The module-wide objects, made by initApp in this order and released by
-// uninitApp in the same order. Those of later parts join them.
-extern OdTcValueStorageImplPtr valueStorage;
-extern OdSmartPtr<class OdTcPaletteManager> paletteManager;
+class TcModuleState
+{
+public:
+  // The start: the classes, the element names of the files and the file
+  // store, the module-wide objects, the catalogs, the offer of tools for
+  // completion. A failure undoes what was done and goes on to the caller.
+  static void start();
+  // The stop: throws OdError 255 when the module is not started (its first
+  // class of the order of deletion is not registered). Otherwise releases
+  // the objects, then deletes the class descriptions; nothing is saved.
+  static void stop();
+  // The state of the started module, or null.
+  static TcModuleState* current();
 
-// The palette set window; null until first shown, and never freed here: the
-// docking frame owns it.
-extern ITcUiPaletteSet* paletteSet;
-// What odtcToolPaletteVisible answers.
-extern bool paletteVisible;
+  ~TcModuleState();
+
+  OdTcValueStorageImpl* valueStorage() const { return m_valueStorage; }
+  OdTcPaletteManager* paletteManager() const { return m_paletteManager; }
+
+  // The palette set window: null until first shown, and owned by the
+  // docking frame, never freed here.
+  ITcUiPaletteSet* paletteSet() const { return m_paletteSet; }
+  void setPaletteSet(ITcUiPaletteSet* window) { m_paletteSet = window; }
+  // What odtcToolPaletteVisible answers.
+  bool paletteVisible() const { return m_paletteVisible; }
+  void setPaletteVisible(bool visible) { m_paletteVisible = visible; }
+
+  // Asks the palette set for one of its views; null without a window.
+  template <class T>
+  T* paletteSetView(int type) const
+  {
+    void* out = nullptr;
+    if (m_paletteSet && m_paletteSet->queryInterface(type, &out))
+      return static_cast<T*>(out);
+    return nullptr;
+  }
+
+private:
+  TcModuleState();
+  // What the start made after the classes, dropped in the order of the
+  // stop; what is null already is skipped.
+  void releaseObjects();
+
+  // The element names of the files and the store, installed while alive.
+  struct FileLayer
+  {
+    FileLayer();
+    ~FileLayer();
+    TcFileStore store;
+  };
+
+  TcHostSession m_host;
+  TcClassRegistration m_classes;
+  FileLayer m_files;
+  // The module-wide objects, in the order of their making. editorReactor,
+  // conveyor, stateSaver, toolBuffer and commandConveyor join here.
+  OdTcValueStorageImplPtr m_valueStorage;
+  OdTcPaletteManagerPtr m_paletteManager;
+  bool m_offersTools = false;
+  ITcUiPaletteSet* m_paletteSet = nullptr; // not owned
+  bool m_paletteVisible = false;
+};
+
+// The module-wide objects of the started module; null when it is not.
+OdTcValueStorageImpl* valueStorage();
+OdTcPaletteManager* paletteManager();
+// The started module's state; throws OdError, with a text for the user,
+// when the module is not started.
+TcModuleState& startedModule();
+
 // What odrxCreateModuleObject hands out.
 extern OdRxModule* moduleObject;
 // Event numbers registered at load for "WM_TC_CUSTOMIZE" and
@@ -37,15 +105,5 @@ extern const OdString kUserArrowMarker;
 using TcPaletteSetCreator = ITcUiPaletteSet* (*)(QWidget* parent);
 void setPaletteSetCreator(TcPaletteSetCreator creator);
 TcPaletteSetCreator paletteSetCreator();
-
-// Asks the palette set for one of its views; null without a window.
-template <class T>
-T* paletteSetView(int type)
-{
-  void* out = nullptr;
-  if (paletteSet && paletteSet->queryInterface(type, &out))
-    return static_cast<T*>(out);
-  return nullptr;
-}
 
 } // namespace tc

@@ -10,14 +10,10 @@ OdTcFilerPtr OdTcCatalogFilerImpl::createObject()
 
 bool OdTcCatalogFilerImpl::openCatalog(OdStreamBuf* stream, OdTcPersist* root, bool write)
 {
-  m_writing = write;
-  m_stream = stream;
-  m_root = root;
-  m_isOpen = true;
+  if (!beginOpen(stream, root, write))
+    return false;
   if (write)
-    return openForWriting(stream, root);
-
-  parseStream(stream);
+    return true;
   m_parentElement = const_cast<TiXmlElement*>(findTopElement("Catalog"));
   if (!m_parentElement)
     return false;

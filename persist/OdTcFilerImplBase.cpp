@@ -3,6 +3,7 @@
 
 #include "persist/OdTcTagTable.h"
 
+#include <algorithm>
 #include <cstring>
 #include <mutex>
 
@@ -229,6 +230,61 @@ void OdTcFilerImplBase::flush()
   m_document.Clear();
 }
 
+namespace {
+
+// Whether elements nest deeper than `limit` in the text, told before the
+// parser, which recurses once per level, ever sees it. Comments, CDATA,
+// declarations and quoted attribute values cannot open an element.
+bool nestsDeeperThan(const std::vector<char>& text, int limit)
+{
+  const char* p = text.data();
+  const char* end = p + text.size();
+  auto skipPast = [&](const char* from, const char* closing) {
+    const char* found = std::search(from, end, closing, closing + std::strlen(closing));
+    return found == end ? end : found + std::strlen(closing);
+  };
+  int depth = 0;
+  while ((p = std::find(p, end, '<')) != end) {
+    const char* q = p + 1;
+    if (q == end)
+      break;
+    if (*q == '!') {
+      p = std::strncmp(q, "!--", std::min<std::ptrdiff_t>(3, end - q)) == 0 ? skipPast(q, "-->")
+          : std::strncmp(q, "![CDATA[", std::min<std::ptrdiff_t>(8, end - q)) == 0 ? skipPast(q, "]]>")
+                                                                                   : skipPast(q, ">");
+      continue;
+    }
+    if (*q == '?') {
+      p = skipPast(q, "?>");
+      continue;
+    }
+    if (*q == '/') {
+      --depth;
+      p = skipPast(q, ">");
+      continue;
+    }
+    char quote = 0;
+    for (; q != end; ++q) {
+      if (quote) {
+        if (*q == quote)
+          quote = 0;
+      } else if (*q == '"' || *q == '\'') {
+        quote = *q;
+      } else if (*q == '>') {
+        break;
+      }
+    }
+    if (q == end)
+      break;
+    if (*(q - 1) != '/' && ++depth > limit)
+      return true;
+    p = q + 1;
+  }
+  return false;
+}
+
+} // namespace
+
 void OdTcFilerImplBase::parseStream(OdStreamBuf* stream)
 {
   const std::uint64_t length = stream->length();
@@ -237,15 +293,31 @@ void OdTcFilerImplBase::parseStream(OdStreamBuf* stream)
   if (length)
     stream->getBytes(buffer.data(), std::uint32_t(length));
   buffer[length] = '\0';
+  if (nestsDeeperThan(buffer, kMaxElementDepth)) {
+    m_refused = true;
+    m_readProblem = OdString::formatted("its elements nest deeper than %d levels", kMaxElementDepth);
+    return;
+  }
   // A broken document keeps what was parsed before the fault.
   m_document.Parse(buffer.data(), nullptr, TIXML_ENCODING_UTF8);
+  if (m_document.Error())
+    m_readProblem = OdString::formatted("the XML breaks off at line %d, column %d: %s", m_document.ErrorRow(),
+                                        m_document.ErrorCol(), textFromUtf8(m_document.ErrorDesc()));
 }
 
-bool OdTcFilerImplBase::openForWriting(OdStreamBuf* stream, OdTcPersist* root)
+bool OdTcFilerImplBase::beginOpen(OdStreamBuf* stream, OdTcPersist* root, bool write)
 {
-  m_parentElement = nullptr;
-  writeObject(root);
-  return true;
+  m_writing = write;
+  m_stream = stream;
+  m_root = root;
+  m_isOpen = true;
+  if (write) {
+    m_parentElement = nullptr;
+    writeObject(root);
+    return true;
+  }
+  parseStream(stream);
+  return !m_refused;
 }
 
 const TiXmlElement* OdTcFilerImplBase::findTopElement(const char* name) const

@@ -2,7 +2,7 @@
 // document, the element cursor, the stack of objects and the writers.
 #pragma once
 
-#include "persist/OdTcFiler.h"
+#include "model/OdTcFiler.h"
 #include "model/OdTcPersist.h"
 
 #include <tinyxml.h>
@@ -49,6 +49,16 @@ public:
   virtual OdTcFormattedValue formatValue(const OdVariant& value, bool mrgbAttribute) const;
 
   const TiXmlDocument& document() const { return m_document; }
+  // Why the file was not read whole: the refusal of a file nested deeper
+  // than any catalog could be, or the fault at which parsing stopped. Empty
+  // when it parsed whole.
+  const OdString& readProblem() const { return m_readProblem; }
+  // True when the file was refused before parsing: nothing of it was read.
+  bool isRefused() const { return m_refused; }
+
+  // Deeper than this no catalog or palette file of any program goes; a
+  // file that does would overflow the stack of the parser.
+  static constexpr int kMaxElementDepth = 256;
 
 protected:
   // The element name used to look up the tag table.
@@ -59,10 +69,10 @@ protected:
   // text: the catalog filer stops reading the parent's children there.
   virtual bool emptyElementEndsReading() const = 0;
 
-  // Steps 1 to 3 of opening for reading: the whole stream parsed as UTF-8.
-  void parseStream(OdStreamBuf* stream);
-  // Opening for writing: the root becomes the document's element.
-  bool openForWriting(OdStreamBuf* stream, OdTcPersist* root);
+  // What both kinds of opening share. Writing: the root becomes the
+  // document's element. Reading: the whole stream is parsed as UTF-8; false
+  // when the file is refused, and then nothing is read.
+  bool beginOpen(OdStreamBuf* stream, OdTcPersist* root, bool write);
   const TiXmlElement* findTopElement(const char* name) const;
   void linkElement(TiXmlElement* element);
 
@@ -76,6 +86,11 @@ protected:
   OdString m_dataTag;
   std::vector<OdString> m_skipTags;
   OdTcPersistPtr m_root;
+  OdString m_readProblem;
+  bool m_refused = false;
+
+private:
+  void parseStream(OdStreamBuf* stream);
 };
 
 OdString textFromUtf8(const char* text);

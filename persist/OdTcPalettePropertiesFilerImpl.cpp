@@ -14,14 +14,10 @@ OdTcFilerPtr OdTcPalettePropertiesFilerImpl::createObject()
 
 bool OdTcPalettePropertiesFilerImpl::openPalette(OdStreamBuf* stream, OdTcPersist* root, bool write)
 {
-  m_writing = write;
-  m_stream = stream;
-  m_root = root;
-  m_isOpen = true;
+  if (!beginOpen(stream, root, write))
+    return false; // refused before parsing: nothing is read, not even for the message
   if (write)
-    return openForWriting(stream, root);
-
-  parseStream(stream);
+    return true;
   auto* palette = const_cast<TiXmlElement*>(findTopElement("Palette"));
   if (!palette || !palette->FirstChildElement()) {
     hostMessageBox(Supp_Translate("Error while reading tool palette file."), "Verdani", 48);

@@ -1,7 +1,11 @@
-// The tag table: which class the filers make from an element name.
+// The tag table: which class the filers make from an element name. Each
+// subsystem adds its element names when the module registers classes, and
+// the module empties it when it stops.
 #pragma once
 
 #include "model/OdTcPersist.h"
+
+#include <map>
 
 namespace tc {
 
@@ -10,18 +14,17 @@ using OdTcTagFactory = OdTcPersistPtr (*)();
 class OdTcTagTable
 {
 public:
-  // The one table of the process, built on first use.
+  // The one table of the process.
   static OdTcTagTable& instance();
 
   bool isKnownTag(const OdString& name) const;
   // A new object for the element name, or null for a name not in the table.
   OdTcPersistPtr createByTag(const OdString& name) const;
 
-  // Adds or replaces an entry; a later entry for a name wins. Each class of
-  // the catalog model adds its own element names here when the module
-  // registers it.
+  // Adds or replaces an entry: a later entry for a name wins.
   void registerTag(const OdString& name, OdTcTagFactory factory);
   void unregisterTag(const OdString& name);
+  void clear() { m_factories.clear(); }
 
 private:
   OdTcTagTable() = default;

@@ -26,6 +26,28 @@ OdString pathFromFile(const OdString& text)
   return path;
 }
 
+OdString cleanFileName(const OdString& name)
+{
+  QString clean;
+  for (QChar c : name.qstring())
+    if (c.unicode() >= 0x20 && !QStringLiteral("\\<>/?:;*|,='\"").contains(c))
+      clean += c;
+  while (clean.contains(QStringLiteral("..")))
+    clean.replace(QStringLiteral(".."), QString());
+  // A file name holds 255 bytes; the id, the extension and the temporary
+  // name of a save come on top.
+  QByteArray bytes = clean.toUtf8();
+  if (bytes.size() > 120) {
+    bytes.truncate(120);
+    while (!bytes.isEmpty() && QString::fromUtf8(bytes).toUtf8() != bytes)
+      bytes.chop(1);
+    clean = QString::fromUtf8(bytes);
+  }
+  if (clean.isEmpty() || clean == QLatin1String("."))
+    clean = QStringLiteral("Palette");
+  return OdString(clean);
+}
+
 TcPathFolders hostPathFolders()
 {
   TcPathFolders folders;

@@ -46,4 +46,10 @@ bool normalizePath(OdString& path);
 // Path text read from a file: "\" becomes "/".
 OdString pathFromFile(const OdString& text);
 
+// A name as a file name: without the characters a file name cannot hold on
+// either system (\ < > / ? : ; * | , = ' " and control characters), without
+// "..", and short enough to leave room for what is added to it. An empty
+// result becomes "Palette".
+OdString cleanFileName(const OdString& name);
+
 } // namespace tc

@@ -75,7 +75,7 @@ int main(int argc, char* argv[])
   HostStartOptions start;
   start.settings = options.settings;
   start.drawing = options.drawing;
-  start.modules = {OdString("toolpalettes")};
+  start.modules = {OdString("toolpalettes"), OdString("tpcommands")};
 
   HostApp& app = HostApp::instance();
   const bool interactive = !script.is_open() && isatty(STDIN_FILENO);

@@ -34,7 +34,7 @@ struct HostStartOptions
   // "Folder/Name" in the configuration tree.
   std::vector<OdString> settings;
   // Modules loaded by name, in this order (the console loads
-  // "toolpalettes").
+  // "toolpalettes", then "tpcommands", its commands over that module).
   std::vector<OdString> modules;
   // Runs the commands that the configuration's "Startup" folder names.
   bool runStartupList = true;

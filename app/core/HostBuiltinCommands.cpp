@@ -9,7 +9,6 @@
 #include "app/core/HostDrawCommands.h"
 #include "app/core/HostEditCommands.h"
 #include "app/core/HostOutput.h"
-#include "app/core/HostToolPalettes.h"
 
 #include "sdk/dxf/OdDxf.h"
 
@@ -198,7 +197,6 @@ void registerAll()
   add("SaveAsDocument", &saveAsDocument);
   add("Exit", &exitHost);
   add("SETDIR", &setDir);
-  HostToolPalettes::registerCommands();
   HostDrawCommands::registerCommands();
   HostEditCommands::registerCommands();
 }

@@ -1,6 +1,6 @@
 // The host's own commands, in the group "VERDANI": NewDocument,
-// OpenDocument, CloseDocument, SaveDocument, SaveAsDocument, Exit, SETDIR,
-// and the two over the tool palettes module. More are added here.
+// OpenDocument, CloseDocument, SaveDocument, SaveAsDocument, Exit, SETDIR.
+// More are added here.
 #pragma once
 
 #include "app/core/HostCommandTable.h"

@@ -11,10 +11,11 @@
 // UTF-8 form, marked encoding="base64".
 #include "app/core/HostConfig.h"
 
+#include "sdk/kernel/OdSafeFile.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <QXmlStreamReader>
 #include <QXmlStreamWriter>
 
@@ -257,18 +258,12 @@ bool HostConfig::save()
   if (!QDir().mkpath(QFileInfo(m_filePath).absolutePath())) {
     error = QStringLiteral("cannot create the folder %1").arg(QFileInfo(m_filePath).absolutePath());
   } else {
-    QSaveFile file(m_filePath);
     const QByteArray bytes = toXml();
-    // Unbuffered, so that a short write shows in what write() returns.
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
-      error = file.errorString();
-    } else if (file.write(bytes) != bytes.size()) {
-      // A short write (a full disk, a file size limit) can come without an
-      // error of its own: the temporary file must not replace the old one.
-      error = file.error() != QFileDevice::NoError ? file.errorString() : QStringLiteral("the disk refused to write");
-      file.cancelWriting();
-    } else if (!file.commit()) {
-      error = file.errorString();
+    try {
+      odWriteFileSafely(OdString(m_filePath),
+                        [&](OdStreamBuf& stream) { stream.putBytes(bytes.constData(), std::uint32_t(bytes.size())); });
+    } catch (const OdError_FileException& e) {
+      error = e.reason().qstring();
     }
   }
   if (error.isEmpty()) {

@@ -6,7 +6,7 @@
 #include "sdk/db/OdDbDictionary.h"
 #include "sdk/db/OdDbSymbolTable.h"
 
-#include <QSaveFile>
+#include "sdk/kernel/OdSafeFile.h"
 
 #include <charconv>
 #include <cstring>
@@ -277,9 +277,13 @@ void odDxfWriteFile(OdDbDatabase* db, const OdString& path)
     throw OdError(eUnsupportedFormat,
                   OdString::formatted("Cannot write %s: DWG drawings are not supported; save it as DXF", path));
   const std::string text = odDxfWriteBuffer(db);
-  QSaveFile f(path.qstring());
-  if (!f.open(QIODevice::WriteOnly))
-    throw OdError(eFileAccessErr, OdString::formatted("Cannot write %s: %s", path, f.errorString()));
-  if (f.write(text.data(), qint64(text.size())) != qint64(text.size()) || !f.commit())
-    throw OdError(eFileAccessErr, OdString::formatted("Cannot write %s: %s", path, f.errorString()));
+  try {
+    odWriteFileSafely(path, [&](OdStreamBuf& stream) {
+      constexpr std::size_t kChunk = std::size_t(1) << 30;
+      for (std::size_t at = 0; at < text.size(); at += kChunk)
+        stream.putBytes(text.data() + at, std::uint32_t(std::min(kChunk, text.size() - at)));
+    });
+  } catch (const OdError_FileException& e) {
+    throw OdError(eFileAccessErr, OdString::formatted("Cannot write %s: %s", path, e.reason()));
+  }
 }

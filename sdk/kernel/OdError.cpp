@@ -56,3 +56,9 @@ OdError_FileException::OdError_FileException(int code, const OdString& fileName)
     : OdError(code, OdString::formatted("%s: %s", defaultDescription(code), fileName)), m_fileName(fileName)
 {
 }
+
+OdError_FileException::OdError_FileException(int code, const OdString& fileName, const OdString& reason)
+    : OdError(code, OdString::formatted("%s: %s: %s", defaultDescription(code), fileName, reason)),
+      m_fileName(fileName), m_reason(reason)
+{
+}

@@ -58,8 +58,13 @@ class OdError_FileException : public OdError
 {
 public:
   OdError_FileException(int code, const OdString& fileName);
+  // With the system's reason ("No space left on device").
+  OdError_FileException(int code, const OdString& fileName, const OdString& reason);
   OdString fileName() const { return m_fileName; }
+  // The system's reason, when it was given.
+  OdString reason() const { return m_reason; }
 
 private:
   OdString m_fileName;
+  OdString m_reason;
 };

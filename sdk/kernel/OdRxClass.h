@@ -15,6 +15,9 @@ public:
   const OdString& appName() const { return m_appName; }
   OdRxClass* myParent() const { return m_parent; }
   OdPseudoConstructorType constructor() const { return m_constructor; }
+  // Binds the creation function later than the description was made: an
+  // interface registered by one library gets the implementation of another.
+  void setConstructor(OdPseudoConstructorType constructor) { m_constructor = constructor; }
 
   // A new instance through the creation function; null for an abstract class.
   OdRxObjectPtr create() const;

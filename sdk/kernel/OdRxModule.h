@@ -46,6 +46,33 @@ using OdRxCreateModuleObjectFn = OdRxModule* (*)(void*& instance);
 using OdRxGetApiVersionFn = void (*)(int& a, int& b, int& c, int& d);
 }
 
+// Defines the two entry points of a module library for its module class.
+// The first odrxCreateModuleObject makes the object with the caller's
+// handle, keeps it in `Slot` (an OdRxModule* of the library, which the
+// class's deleteModule clears) and clears the caller's variable; every call
+// answers the object kept. A failure to make it answers null, which the
+// loader reports.
+#define ODRX_DEFINE_DYNAMIC_MODULE(ModuleClass, Slot)                                   \
+  extern "C" OdRxModule* odrxCreateModuleObject(void*& instance)                       \
+  {                                                                                     \
+    if (!(Slot)) {                                                                      \
+      try {                                                                             \
+        (Slot) = new OdRxWin32Module<ModuleClass>(instance);                            \
+        instance = nullptr;                                                             \
+      } catch (...) {                                                                   \
+        return nullptr;                                                                 \
+      }                                                                                 \
+    }                                                                                   \
+    return (Slot);                                                                      \
+  }                                                                                     \
+  extern "C" void odrxGetAPIVersion(int& a, int& b, int& c, int& d)                    \
+  {                                                                                     \
+    a = kOdApiVersion[0];                                                               \
+    b = kOdApiVersion[1];                                                               \
+    c = kOdApiVersion[2];                                                               \
+    d = kOdApiVersion[3];                                                               \
+  }
+
 class OdRxDynamicLinker
 {
 public:

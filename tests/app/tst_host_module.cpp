@@ -118,17 +118,4 @@ void TestModule::deleteModule()
 
 } // namespace
 
-extern "C" OdRxModule* odrxCreateModuleObject(void*& instance)
-{
-  if (!g_module)
-    g_module = new OdRxWin32Module<TestModule>(instance);
-  return g_module;
-}
-
-extern "C" void odrxGetAPIVersion(int& a, int& b, int& c, int& d)
-{
-  a = 4;
-  b = 3;
-  c = 1;
-  d = 0;
-}
+ODRX_DEFINE_DYNAMIC_MODULE(TestModule, g_module)

@@ -1,10 +1,15 @@
-// Registers the classes of the catalog model once for a test program, as
-// the module does at start.
+// Sets up what the module sets up for the catalog model when it starts: the
+// classes, the element names of the files, and the file store.
 #pragma once
 
 #include "model/OdTcCatalogImpl.h"
-#include "images/OdTcImageList.h"
+#include "model/OdTcImageList.h"
 #include "model/OdTcPaletteUi.h"
+
+#include "images/TcImageClasses.h"
+#include "persist/OdTcTagTable.h"
+#include "persist/TcFileStore.h"
+#include "persist/TcModelTags.h"
 
 namespace tst {
 
@@ -22,6 +27,10 @@ inline void registerModelClasses()
                    OdTcCatalogItemOrderList, OdTcCatalogView, OdTcList, OdTcToolList, OdTcCatalog, OdTcGroup,
                    OdTcPaletteLoader, OdTcPaletteLoaderList, OdTcGroupContentList, OdTcPaletteSoftRef,
                    OdTcGroupList, OdTcCatalogItemList>();
+  registerModelTags(OdTcTagTable::instance());
+  registerImageClasses(OdTcTagTable::instance());
+  static TcFileStore store;
+  odtcSetFileStore(&store);
 }
 
 } // namespace tst

@@ -296,3 +296,48 @@ TEST_F(CatalogFiles, paletteRecords_defaultsAndOddValues)
   EXPECT_THROW(p->setPath("x"), OdError);
   EXPECT_FALSE(OdTcToolPaletteImpl::createNew()->load(file("missing.vtc")));
 }
+
+struct SortRow
+{
+  std::int32_t sortType;
+  OdArray<OdString> storedOrder;
+  std::vector<std::string> expected;
+};
+
+void PrintTo(const SortRow& row, std::ostream* os)
+{
+  *os << "sort type " << row.sortType;
+}
+
+class PaletteSort : public ::testing::TestWithParam<SortRow>
+{
+protected:
+  static void SetUpTestSuite() { tst::registerModelClasses(); }
+};
+
+TEST_P(PaletteSort, toolsComeInTheOrderOfTheSortType)
+{
+  OdTcToolPalettePtr palette = OdTcToolPaletteImpl::createNew();
+  palette->disableUpdate();
+  // Any item stands for a tool here: the tools' classes come later.
+  for (const char* name : {"b", "A", "c", "a"}) {
+    OdTcCatalogItemPtr tool = OdTcToolPaletteImpl::createNew();
+    tool->setName(name);
+    tool->setId(OdString("id-") + name);
+    palette->addChild(tool);
+  }
+  if (!GetParam().storedOrder.isEmpty())
+    palette->setToolOrder(GetParam().storedOrder);
+  palette->setSortType(GetParam().sortType);
+  std::vector<std::string> names;
+  for (const OdTcCatalogItemPtr& tool : palette->sortedTools())
+    names.push_back(tool->displayName().toUtf8());
+  EXPECT_EQ(names, GetParam().expected);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    rows, PaletteSort,
+    ::testing::Values(SortRow{0, {}, {"A", "a", "b", "c"}},          // by name, ignoring case, ties kept
+                      SortRow{1, {}, {"b", "A", "c", "a"}},          // by type: none has a kind yet
+                      SortRow{2, {"id-c", "id-b"}, {"c", "b", "A", "a"}}, // stored, the rest last
+                      SortRow{2, {}, {"b", "A", "c", "a"}}));

@@ -1,9 +1,10 @@
 // Catalog items, their display record, reactors, lists and order lists.
-#include "persist/OdTcCatalogFilerImpl.h"
+#include "tests/model/ModelClasses.h"
+
 #include "model/OdTcCatalogItemImplBase.h"
 #include "model/OdTcLists.h"
 #include "model/OdTcPaletteSoftRef.h"
-#include "persist/OdTcTagTable.h"
+#include "persist/OdTcCatalogFilerImpl.h"
 
 #include <gtest/gtest.h>
 
@@ -45,16 +46,7 @@ struct CountingReactor : OdTcCatalogItemReactor
 class CatalogItems : public ::testing::Test
 {
 protected:
-  template <class... C>
-  static void ensureRegistered()
-  {
-    ((C::desc() ? void() : C::rxInit()), ...);
-  }
-  static void SetUpTestSuite()
-  {
-    ensureRegistered<OdTcPersist, OdTcCatalogItem, OdTcImageList, OdTcImage, OdTcProperties,
-                     OdTcCatalogItemOrderList, OdTcPaletteSoftRef>();
-  }
+  static void SetUpTestSuite() { tst::registerModelClasses(); }
 
   static std::string write(OdTcPersist* root)
   {

@@ -13,6 +13,13 @@ State& state()
   return s;
 }
 
+void reset()
+{
+  std::vector<Command> commands = std::move(state().commands);
+  state() = State();
+  state().commands = std::move(commands);
+}
+
 void changeOption(const char* name)
 {
   for (IPropReactor* r : std::vector<IPropReactor*>(state().propReactors))
@@ -150,12 +157,16 @@ public:
   }
   bool getRoot(IConfigManager** out) override
   {
+    if (state().brokenProfile)
+      throw OdError(eInvalidInput, "the configuration tree is broken");
     *out = new Root;
     return true;
   }
   bool getParam(const char*, const char*, bool, IConfigParam**) override { return false; }
   bool getValue(const char* key, CRkVariant& out) override
   {
+    if (key == state().brokenKey)
+      throw OdError(eInvalidInput, OdString::formatted("the value %s is broken", OdString(key)));
     auto it = state().stdDirs.find(key);
     if (it == state().stdDirs.end())
       return false;

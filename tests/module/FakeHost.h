@@ -31,9 +31,16 @@ struct State
   std::string printed;
   std::map<std::string, CRkVariant> stdDirs; // "ToolPaletteDir", "CommonDirs", "Shx"
   OdString userDataFolder;
+  // A broken configuration: reading this key of the standard folders, or
+  // the configuration tree, fails with an exception.
+  std::string brokenKey;
+  bool brokenProfile = false;
 };
 
 State& state();
+// Forgets what the tests did; the commands registered while the module
+// loaded stay.
+void reset();
 // Tells every property reactor that an option changed.
 void changeOption(const char* name);
 

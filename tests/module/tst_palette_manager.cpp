@@ -4,7 +4,11 @@
 
 #include "module/OdTcPaletteManagerImpl.h"
 #include "module/TcClassTable.h"
-#include "module/TcModuleState.h"
+
+#include "images/TcImageClasses.h"
+#include "persist/OdTcTagTable.h"
+#include "persist/TcFileStore.h"
+#include "persist/TcModelTags.h"
 
 #include <QDir>
 #include <QFile>
@@ -32,18 +36,21 @@ class PaletteManager : public ::testing::Test
 protected:
   void SetUp() override
   {
-    if (!OdTcPersist::desc())
-      registerModuleClasses();
-    fakehost::state().stdDirs.clear();
-    fakehost::state().printed.clear();
-    fakehost::state().propReactors.clear();
+    fakehost::reset();
     fakehost::state().userDataFolder = OdString(m_dir.filePath(QStringLiteral("data")));
-    valueStorage = OdTcValueStorageImpl::createNew();
+    m_classes = std::make_unique<TcClassRegistration>();
+    registerModelTags(OdTcTagTable::instance());
+    registerImageClasses(OdTcTagTable::instance());
+    odtcSetFileStore(&m_store);
+    m_storage = OdTcValueStorageImpl::createNew();
   }
   void TearDown() override
   {
     m_manager = nullptr;
-    valueStorage = nullptr;
+    m_storage = nullptr;
+    odtcSetFileStore(nullptr);
+    OdTcTagTable::instance().clear();
+    m_classes.reset();
   }
 
   OdString userFolder() const { return OdString(m_dir.filePath(QStringLiteral("data/ToolPalette"))); }
@@ -55,7 +62,7 @@ protected:
   void setList(const OdString& list) { fakehost::state().stdDirs["ToolPaletteDir"] = CRkVariant(list); }
   OdTcPaletteManagerImpl* start()
   {
-    m_manager = OdTcPaletteManagerImpl::createNew();
+    m_manager = OdTcPaletteManagerImpl::createNew(m_storage);
     m_manager->addReactor(&m_reactor);
     m_manager->loadCatalogs();
     return static_cast<OdTcPaletteManagerImpl*>(m_manager.get());
@@ -71,6 +78,9 @@ protected:
     return names;
   }
 
+  std::unique_ptr<TcClassRegistration> m_classes;
+  TcFileStore m_store;
+  OdTcValueStorageImplPtr m_storage;
   QTemporaryDir m_dir;
   OdTcPaletteManagerPtr m_manager;
   RecordingReactor m_reactor;

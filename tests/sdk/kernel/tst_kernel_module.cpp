@@ -9,32 +9,21 @@ int tst_deleteCount = 0;
 }
 
 namespace {
+OdRxModule* g_module = nullptr;
+
 class TestModule : public OdRxModule
 {
 public:
   void deleteModule() override
   {
     ++tst_deleteCount;
+    g_module = nullptr;
     delete this;
   }
   void initApp() override { ++tst_initCount; }
   void uninitApp() override { ++tst_uninitCount; }
   OdString moduleName() const override { return "tst_kernel_module"; }
 };
-OdRxModule* g_module = nullptr;
 } // namespace
 
-extern "C" OdRxModule* odrxCreateModuleObject(void*& instance)
-{
-  if (!g_module)
-    g_module = new OdRxWin32Module<TestModule>(instance);
-  return g_module;
-}
-
-extern "C" void odrxGetAPIVersion(int& a, int& b, int& c, int& d)
-{
-  a = 4;
-  b = 3;
-  c = 1;
-  d = 0;
-}
+ODRX_DEFINE_DYNAMIC_MODULE(TestModule, g_module)

@@ -1,7 +1,9 @@
-// OdTcImage: one size of an item's picture: a file next to the catalog, or a
-// picture of the host's button resource.
+// OdTcImageImpl: one size of an item's picture: a file next to the catalog,
+// or a picture of the host's button resource. Also the size classes and
+// the names that mean "the host's button resource".
 #pragma once
 
+#include "model/OdTcImage.h"
 #include "model/OdTcPersistImpl.h"
 
 namespace tc {
@@ -15,52 +17,32 @@ OdString imageSuffixOfClass(int sizeClass);
 int imageClassOfSize(int size);
 
 // The two texts of "src" that mean "the host's button resource".
-extern const OdString kProgramBtnRes;     // "%ProgramBtnRes%"
-extern const OdString kAcadBtnResource;   // "acadbtn.xmx"
+extern const OdString kProgramBtnRes;   // "%ProgramBtnRes%"
+extern const OdString kAcadBtnResource; // "acadbtn.xmx"
 bool isImageResourceMarker(const OdString& src);
-
-class OdTcImage : public OdTcPersist
-{
-  ODRX_DECLARE_MEMBERS(OdTcImage);
-
-public:
-  virtual void setSizeClass(int sizeClass) = 0;
-  virtual void setSource(const OdString& src, const OdString& resource) = 0;
-  virtual int getSizeClass() const = 0;
-  virtual int getFormat() const = 0;
-  virtual OdString src() const = 0;
-  virtual OdString resource() const = 0;
-  virtual int cx() const = 0;
-  virtual int cy() const = 0;
-  // The same picture at another size class.
-  virtual OdSmartPtr<OdTcImage> cloneAtSize(int sizeClass) const = 0;
-  virtual void writeAttributes(OdTcFiler* filer) = 0;
-  virtual bool readAttribute(const OdString& name, const OdVariant& value) = 0;
-};
-using OdTcImagePtr = OdSmartPtr<OdTcImage>;
 
 class OdTcImageImpl : public OdTcPersistImpl<OdTcImage>
 {
 public:
   static OdTcImagePtr createNew(int sizeClass = 3, const OdString& src = OdString(),
                                 const OdString& resource = OdString());
+  // The creation function bound to OdTcImage's class description.
+  static OdRxObjectPtr pseudoConstructor();
 
   OdString tagName() const override { return "Image"; }
-  void writeBody(OdTcFiler* filer) override { writeAttributes(filer); }
-  bool setValue(const OdString& name, const OdVariant& value) override { return readAttribute(name, value); }
+  void writeBody(OdTcFiler* filer) override;
+  bool setValue(const OdString& name, const OdVariant& value) override;
   void copyFrom(const OdRxObject* source) override;
 
   void setSizeClass(int sizeClass) override;
   void setSource(const OdString& src, const OdString& resource) override;
   int getSizeClass() const override { return m_sizeClass; }
   int getFormat() const override { return m_format; }
-  OdString src() const override { return m_src; }
+  OdString src() const override;
   OdString resource() const override { return m_resource; }
   int cx() const override { return m_cx; }
   int cy() const override { return m_cy; }
   OdTcImagePtr cloneAtSize(int sizeClass) const override;
-  void writeAttributes(OdTcFiler* filer) override;
-  bool readAttribute(const OdString& name, const OdVariant& value) override;
 
 private:
   int m_sizeClass = 3;
@@ -68,6 +50,7 @@ private:
   int m_cx = 32;
   int m_cy = 32;
   OdString m_resource;
+  // As the file has it, "\" and all, so that a save writes it back as read.
   OdString m_src;
 };
 

@@ -1,15 +1,20 @@
 // The image list of an item.
-#include "images/OdTcImageList.h"
+#include "images/OdTcImageListImpl.h"
+
+#include "images/OdTcImageImpl.h"
 
 #include "sdk/kernel/OdWcstol.h"
 
 namespace tc {
 
-ODRX_DEFINE_MEMBERS(OdTcImageList, OdTcPersist, ODRX_CREATE_IMPL(OdTcImageListImpl, OdTcImageList))
-
 OdTcImageListPtr OdTcImageListImpl::createNew()
 {
   return OdRxObjectImpl<OdTcImageListImpl, OdTcImageList>::createObject();
+}
+
+OdRxObjectPtr OdTcImageListImpl::pseudoConstructor()
+{
+  return OdRxObjectPtr(createNew());
 }
 
 void OdTcImageListImpl::writeBody(OdTcFiler* filer)
@@ -26,7 +31,7 @@ bool OdTcImageListImpl::setValue(const OdString& name, const OdVariant& value)
     return true;
   }
   if (name == "Image") {
-    m_images.append(OdTcImagePtr(value.getRxObjectPtr()));
+    m_images.append(deliveredObject<OdTcImage>(value));
     return true;
   }
   return false;

@@ -1,11 +1,11 @@
 // Pictures of items: size classes and their XML attributes.
-#include "images/OdTcImage.h"
+#include "images/OdTcImageImpl.h"
+
+#include "persist/TcPathTokens.h"
 
 #include "sdk/kernel/OdWcstol.h"
 
 namespace tc {
-
-ODRX_DEFINE_MEMBERS(OdTcImage, OdTcPersist, ODRX_CREATE_IMPL(OdTcImageImpl, OdTcImage))
 
 const OdString kProgramBtnRes("%ProgramBtnRes%");
 const OdString kAcadBtnResource("acadbtn.xmx");
@@ -52,6 +52,16 @@ OdTcImagePtr OdTcImageImpl::createNew(int sizeClass, const OdString& src, const 
   return image;
 }
 
+OdRxObjectPtr OdTcImageImpl::pseudoConstructor()
+{
+  return OdRxObjectPtr(OdRxObjectImpl<OdTcImageImpl, OdTcImage>::createObject());
+}
+
+OdString OdTcImageImpl::src() const
+{
+  return pathFromFile(m_src);
+}
+
 void OdTcImageImpl::copyFrom(const OdRxObject* source)
 {
   OdTcPersistImpl<OdTcImage>::copyFrom(source);
@@ -84,7 +94,7 @@ OdTcImagePtr OdTcImageImpl::cloneAtSize(int sizeClass) const
   return copy;
 }
 
-void OdTcImageImpl::writeAttributes(OdTcFiler* filer)
+void OdTcImageImpl::writeBody(OdTcFiler* filer)
 {
   filer->writeAttribute("cx", OdVariant(std::int32_t(m_cx)));
   filer->writeAttribute("cy", OdVariant(std::int32_t(m_cy)));
@@ -94,7 +104,7 @@ void OdTcImageImpl::writeAttributes(OdTcFiler* filer)
     filer->writeAttribute("resource", OdVariant(m_resource));
 }
 
-bool OdTcImageImpl::readAttribute(const OdString& name, const OdVariant& value)
+bool OdTcImageImpl::setValue(const OdString& name, const OdVariant& value)
 {
   if (name == "cx") {
     m_cx = odWcstol(value.getString());
@@ -102,10 +112,7 @@ bool OdTcImageImpl::readAttribute(const OdString& name, const OdVariant& value)
   } else if (name == "cy") {
     m_cy = odWcstol(value.getString());
   } else if (name == "src") {
-    // Paths from files written on Windows use "\".
-    OdString src = value.getString();
-    src.replace(u'\\', u'/');
-    m_src = src;
+    m_src = value.getString();
   } else if (name == "resource") {
     m_resource = value.getString();
   } else {

@@ -1,5 +1,6 @@
-// OdTcFiler: stands between persistent objects and one XML document. Objects
-// read named values from it and write elements through it.
+// OdTcFiler: what the model needs of a filer, which stands between
+// persistent objects and one XML document. Objects read named values from it
+// and write elements through it; persist/ implements it.
 #pragma once
 
 #include "sdk/kernel/OdRxObject.h"
