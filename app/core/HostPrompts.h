@@ -51,6 +51,9 @@ public:
   Status getKeyword(const HostPromptOptions& options, OdString& value);
   // A line of text, blanks included.
   Status getText(const HostPromptOptions& options, OdString& value);
+  // A word: a blank ends it, except inside double quotes (which are taken
+  // off), as names are typed.
+  Status getWord(const HostPromptOptions& options, OdString& value);
   // An entity of the current drawing's model or paper space: its handle
   // typed in hex, or picked in a desktop host.
   Status getEntity(const HostPromptOptions& options, OdDbObjectId& value);
@@ -69,6 +72,7 @@ private:
     OdString retry; // non-empty: print it and ask again
   };
   using Interpreter = std::function<Verdict(const HostInput& input)>;
+  Status readText(HostPrompt::Kind kind, const HostPromptOptions& options, OdString& value);
   Status ask(HostPrompt::Kind kind, const HostPromptOptions& options, const OdString& defaultText,
              const Interpreter& interpret);
   OdGePoint3d lastPoint() const;
