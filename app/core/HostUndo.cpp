@@ -23,6 +23,12 @@ void HostUndo::beginStep(const OdString& name)
   m_open.name = name;
 }
 
+void HostUndo::innerCommand(const OdString& name)
+{
+  if (m_inCommand && m_open.name.left(2) == "__")
+    m_open.name = name;
+}
+
 void HostUndo::endStep()
 {
   m_inCommand = false;
