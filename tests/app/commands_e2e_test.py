@@ -3,7 +3,7 @@
 user or a tool types them; each saved drawing is read back by ezdxf, which
 must audit it without errors and find what the commands made.
 
-Usage: commands_e2e_test.py <verdani-console> <fixtures folder>
+Usage: commands_e2e_test.py <verdani-console> <fixtures folder> [external data folder]
 """
 import math
 import os
@@ -16,6 +16,7 @@ import zlib
 import ezdxf
 
 console, fixtures = sys.argv[1], sys.argv[2]
+external = sys.argv[3] if len(sys.argv) > 3 and os.path.isdir(sys.argv[3]) else None
 failures = []
 
 
@@ -307,6 +308,42 @@ if doc:
     gradients = [h for h in hatches if h.gradient]
     check(len(gradients) == 1 and gradients[0].gradient.name == "SPHERICAL"
           and tuple(gradients[0].gradient.color1) == (255, 0, 0), "hatch: a red SPHERICAL gradient")
+
+# Real drawings and pictures of others, when they are beside the sources: a
+# block with three attributes in a drawing of another program, that program's
+# external reference, and a JPEG photograph.
+if external:
+    flags = os.path.join(external, "mozman__ezdxf/examples_dxf/multi_insert_with_attribs.dxf")
+    xref = os.path.join(external, "Genidiot__dxf_create/xref.dxf")
+    photo = os.path.join(external, "mozman__ezdxf/examples_dxf/image/image1.jpg")
+    script = """InsertBlock FLAG 500,500 1 0
+North
+1
+2
+XATTACH
+%s
+0,0
+1
+0
+INSERTRASTER
+%s
+0,0
+0.01
+0
+SaveAsDocument
+@OUT@
+Exit
+""" % (xref, photo)
+    out, folder = run("external drawings", script, flags)
+    doc = saved("external drawings", folder)
+    if doc:
+        placed = [i for i in doc.modelspace().query("INSERT") if tuple(i.dxf.insert)[:2] == (500, 500)]
+        check(len(placed) == 1 and attribs(placed[0]) == {"NAME": "North", "XPOS": "1", "YPOS": "2"},
+              "external drawings: FLAG with its three attributes")
+        check(any(b.block.is_xref and b.name == "xref" for b in doc.blocks), "external drawings: the XREF block")
+        images = doc.modelspace().query("IMAGE")
+        check(len(images) == 1 and tuple(images[0].dxf.image_size)[:2] == (1000, 667),
+              "external drawings: the photograph at its pixel size")
 
 if failures:
     print("%d failure(s)" % len(failures))
