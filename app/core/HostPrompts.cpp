@@ -178,20 +178,6 @@ HostPrompts::Status HostPrompts::getInteger(const HostPromptOptions& options, in
   });
 }
 
-HostPrompts::Status HostPrompts::getKeyword(const HostPromptOptions& options, OdString& value)
-{
-  const Status status = ask(HostPrompt::kKeyword, options, value, [&](const HostInput& in) -> Verdict {
-    const OdString k = in.kind == HostInput::kText ? matchKeyword(in.text, options.keywords) : OdString();
-    if (k.isEmpty())
-      return {kOk, "Invalid option keyword."};
-    value = k;
-    return {};
-  });
-  if (status == kKeyword)
-    value = m_keyword;
-  return status == kKeyword ? kOk : status;
-}
-
 HostPrompts::Status HostPrompts::readText(HostPrompt::Kind kind, const HostPromptOptions& options, OdString& value)
 {
   HostPrompt prompt;

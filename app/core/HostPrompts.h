@@ -34,7 +34,7 @@ public:
   {
     kOk,      // a value, or the default taken with Enter
     kNone,    // Enter where that is allowed without a default
-    kKeyword, // keyword() tells which
+    kKeyword, // one of the options; keyword() tells which
     kCancel,  // "^C" or the end of input; the command should end
     kPoint    // getEntityOrPoint: a point instead of an object
   };
@@ -48,7 +48,6 @@ public:
   Status getAngle(const HostPromptOptions& options, double& value);
   Status getReal(const HostPromptOptions& options, double& value);
   Status getInteger(const HostPromptOptions& options, int& value);
-  Status getKeyword(const HostPromptOptions& options, OdString& value);
   // A line of text, blanks included.
   Status getText(const HostPromptOptions& options, OdString& value);
   // A word: a blank ends it, except inside double quotes (which are taken

@@ -41,13 +41,6 @@ void HostUndo::endStep()
   m_redo.clear();
 }
 
-void HostUndo::clear()
-{
-  m_open = Step();
-  m_undo.clear();
-  m_redo.clear();
-}
-
 OdString HostUndo::undoName() const
 {
   if (!m_open.empty())

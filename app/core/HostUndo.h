@@ -43,9 +43,6 @@ public:
   // there is nothing to undo.
   bool undo();
   bool redo();
-  // Forgets everything (a drawing read anew).
-  void clear();
-  std::size_t undoCount() const { return m_undo.size(); }
 
   void objectAppended(const OdDbDatabase* database, const OdDbObject* object) override;
   void objectOpenedForModify(const OdDbDatabase* database, const OdDbObject* object) override;
