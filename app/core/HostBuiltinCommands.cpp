@@ -8,6 +8,8 @@
 #include "app/core/HostDocumentManager.h"
 #include "app/core/HostDrawCommands.h"
 #include "app/core/HostEditCommands.h"
+#include "app/core/HostHatchCommands.h"
+#include "app/core/HostInsertCommands.h"
 #include "app/core/HostOutput.h"
 
 #include "sdk/dxf/OdDxf.h"
@@ -199,6 +201,8 @@ void registerAll()
   add("SETDIR", &setDir);
   HostDrawCommands::registerCommands();
   HostEditCommands::registerCommands();
+  HostInsertCommands::registerCommands();
+  HostHatchCommands::registerCommands();
 }
 
 } // namespace HostBuiltinCommands
