@@ -1,0 +1,117 @@
+// The drawing view: shows a document's model space, pans (middle button, or
+// a drag), zooms at the cursor (wheel), zooms to the extents or a window,
+// shows a cross-hair, snaps to end points and centres while a point is
+// wanted, and picks entities. Pans scroll the last picture and draw only
+// what came into sight.
+#pragma once
+
+#include "app/gui/DrawingScene.h"
+#include "app/gui/SceneRenderer.h"
+#include "app/gui/ViewTransform.h"
+
+#include <QWidget>
+
+#include <memory>
+#include <optional>
+
+class OdDbDatabase;
+
+class DrawingView : public QWidget
+{
+  Q_OBJECT
+
+public:
+  explicit DrawingView(QWidget* parent = nullptr);
+  ~DrawingView() override;
+
+  // Shows a drawing (null: nothing) and zooms to its extents.
+  void setDatabase(OdDbDatabase* db);
+  OdDbDatabase* database() const { return m_scene.database(); }
+  // Follows changes of the drawing; true when the picture changed.
+  bool syncWithDrawing();
+  const DrawingScene& scene() const { return m_scene; }
+
+  ViewTransform& view() { return m_view; }
+  const ViewTransform& view() const { return m_view; }
+  void setView(const ViewTransform& view);
+  void zoomExtents();
+  // The next two clicks give the corners of the area to show.
+  void startZoomWindow();
+  bool isZoomingWindow() const { return m_zoomWindow; }
+  void zoomAt(const QPointF& screen, double factor);
+  void pan(const QPointF& screenDelta);
+
+  // While a command waits for a point, clicks answer it and the cursor
+  // snaps to end points and centres.
+  void setPointWanted(bool wanted);
+  bool isPointWanted() const { return m_pointWanted; }
+  void setSnapEnabled(bool on) { m_snapEnabled = on; }
+  bool isSnapEnabled() const { return m_snapEnabled; }
+  // Where a click at `screen` lands: on a snap point within the aperture,
+  // else under the cursor.
+  QPointF pointAt(const QPointF& screen, std::optional<SnapPoint>* snapped = nullptr) const;
+
+  const std::vector<OdDbObjectId>& selection() const { return m_selection; }
+  void setSelection(const std::vector<OdDbObjectId>& ids);
+  void clearSelection() { setSelection({}); }
+
+  void setAntialiased(bool on);
+  bool isAntialiased() const { return m_options.antialiased; }
+  // Cancels what the view itself waits for (a zoom window); false when
+  // there was nothing.
+  bool cancelViewAction();
+
+  // The drawing as this view shows it, into an image of its size (without
+  // cross-hair or selection).
+  QImage renderImage(const ViewTransform& view) const;
+
+  static constexpr int kPickBox = 5;   // half a side, pixels
+  static constexpr int kAperture = 10; // pixels
+
+signals:
+  void pointPicked(const QPointF& world);
+  void selectionChanged();
+  void cursorMoved(const QPointF& world);
+  void viewChanged();
+  // Escape pressed in the view.
+  void cancelRequested();
+  // Keys typed while the view has the focus belong to the command line.
+  void keyTyped(QKeyEvent* event);
+
+protected:
+  void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void leaveEvent(QEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+
+private:
+  void updateFrame();
+  void renderFull();
+  void drawOverlay(QPainter& painter);
+  void click(const QPointF& screen, Qt::KeyboardModifiers modifiers);
+  void viewMoved();
+
+  DrawingScene m_scene;
+  ViewTransform m_view;
+  SceneRenderer::Options m_options;
+  QImage m_frame;
+  std::optional<ViewTransform> m_frameView; // the view m_frame shows; none: draw anew
+
+  bool m_pointWanted = false;
+  bool m_snapEnabled = true;
+  bool m_zoomWindow = false;
+  std::optional<QPointF> m_windowCorner; // world
+  std::vector<OdDbObjectId> m_selection;
+
+  std::optional<QPointF> m_cursor; // screen
+  std::optional<SnapPoint> m_snap;
+  // A press of the left or middle button, until it is a click or a drag.
+  std::optional<QPointF> m_pressAt;
+  QPointF m_lastDrag;
+  bool m_dragging = false;
+  Qt::MouseButton m_pressButton = Qt::NoButton;
+};
