@@ -12,6 +12,7 @@ namespace {
 
 constexpr double kWheelStep = 1.2; // zoom factor of one notch of the wheel
 constexpr int kDragThreshold = 4;  // pixels a press moves before it is a drag
+constexpr int kSmoothDelay = 250;  // milliseconds of rest before a smooth frame
 
 QColor overlayColor(QRgb background)
 {
@@ -28,6 +29,15 @@ DrawingView::DrawingView(QWidget* parent) : QWidget(parent)
   setCursor(Qt::BlankCursor);
   setMinimumSize(100, 100);
   m_view.setViewport(size());
+  m_smoothTimer = new QTimer(this);
+  m_smoothTimer->setSingleShot(true);
+  m_smoothTimer->setInterval(kSmoothDelay);
+  connect(m_smoothTimer, &QTimer::timeout, this, [this] {
+    if (m_frameDraft) {
+      m_frameView.reset();
+      update();
+    }
+  });
 }
 
 DrawingView::~DrawingView() = default;
@@ -150,21 +160,33 @@ QImage DrawingView::renderImage(const ViewTransform& view) const
   return image;
 }
 
-void DrawingView::renderFull()
+void DrawingView::renderFull(bool draft)
 {
+  SceneRenderer::Options options = m_options;
+  options.antialiased = m_options.antialiased && !draft;
+  options.draft = draft;
   const qreal dpr = devicePixelRatioF();
   m_frame = QImage(size() * dpr, QImage::Format_ARGB32_Premultiplied);
   m_frame.setDevicePixelRatio(dpr);
   m_frame.fill(m_scene.background());
   QPainter p(&m_frame);
-  SceneRenderer::render(p, m_scene, m_view, rect(), m_options);
+  SceneRenderer::render(p, m_scene, m_view, rect(), options);
   m_frameView = m_view;
+  m_frameDraft = draft;
+  if (m_frameDraft)
+    m_smoothTimer->start();
 }
 
 void DrawingView::updateFrame()
 {
   if (m_frameView && *m_frameView == m_view)
     return;
+  // The frame is drawn again because the view moved (not because the
+  // drawing or the window changed): a draft, smoothed once it rests.
+  const bool moving = m_frameView && m_frameView->viewport() == m_view.viewport();
+  SceneRenderer::Options strips = m_options;
+  strips.antialiased = m_options.antialiased && !m_frameDraft;
+  strips.draft = m_frameDraft;
   // A pan by whole pixels keeps the picture: it moves, and only the strips
   // that came into sight are drawn.
   if (m_frameView && m_frameView->scale() == m_view.scale() && m_frameView->viewport() == m_view.viewport() &&
@@ -178,20 +200,20 @@ void DrawingView::updateFrame()
       QPainter p(&moved);
       p.drawImage(QPoint(ix, iy), m_frame);
       if (ix > 0)
-        SceneRenderer::render(p, m_scene, m_view, QRect(0, 0, ix, height()), m_options);
+        SceneRenderer::render(p, m_scene, m_view, QRect(0, 0, ix, height()), strips);
       else if (ix < 0)
-        SceneRenderer::render(p, m_scene, m_view, QRect(width() + ix, 0, -ix, height()), m_options);
+        SceneRenderer::render(p, m_scene, m_view, QRect(width() + ix, 0, -ix, height()), strips);
       if (iy > 0)
-        SceneRenderer::render(p, m_scene, m_view, QRect(0, 0, width(), iy), m_options);
+        SceneRenderer::render(p, m_scene, m_view, QRect(0, 0, width(), iy), strips);
       else if (iy < 0)
-        SceneRenderer::render(p, m_scene, m_view, QRect(0, height() + iy, width(), -iy), m_options);
+        SceneRenderer::render(p, m_scene, m_view, QRect(0, height() + iy, width(), -iy), strips);
       p.end();
       m_frame = std::move(moved);
       m_frameView = m_view;
       return;
     }
   }
-  renderFull();
+  renderFull(moving);
 }
 
 void DrawingView::paintEvent(QPaintEvent*)

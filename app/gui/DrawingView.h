@@ -9,6 +9,7 @@
 #include "app/gui/SceneRenderer.h"
 #include "app/gui/ViewTransform.h"
 
+#include <QTimer>
 #include <QWidget>
 
 #include <memory>
@@ -90,7 +91,7 @@ protected:
 
 private:
   void updateFrame();
-  void renderFull();
+  void renderFull(bool draft);
   void drawOverlay(QPainter& painter);
   void click(const QPointF& screen, Qt::KeyboardModifiers modifiers);
   void viewMoved();
@@ -100,6 +101,10 @@ private:
   SceneRenderer::Options m_options;
   QImage m_frame;
   std::optional<ViewTransform> m_frameView; // the view m_frame shows; none: draw anew
+  // While the view moves, frames are drawn without smoothing; a moment
+  // after it stops, the frame is drawn again smooth.
+  bool m_frameDraft = false;
+  QTimer* m_smoothTimer = nullptr;
 
   bool m_pointWanted = false;
   bool m_snapEnabled = true;

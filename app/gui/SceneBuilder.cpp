@@ -121,7 +121,7 @@ void SceneBuilder::draw(const OdDbEntity& e, const Context& c)
   // A block reference is left out as a whole only when frozen: on a layer
   // that is merely off, its entities on other layers still show.
   if (type == "INSERT" || type == "DIMENSION" || type == "ACAD_TABLE") {
-    if (m_resolver.isFrozen(look.layer) || e.visibility() != OdDb::kVisible || c.depth >= kMaxBlockDepth)
+    if (look.frozen() || e.visibility() != OdDb::kVisible || c.depth >= kMaxBlockDepth)
       return;
     if (type == "DIMENSION")
       dimension(e, look, c);
@@ -232,11 +232,10 @@ void SceneBuilder::emitCurve(const std::vector<QPointF>& world, bool closed, con
     emitPoint(world[0], st);
     return;
   }
-  const std::vector<double>& pattern = m_resolver.pattern(look.linetype);
-  if (!pattern.empty() && !(flags & ScenePrimFlag::kPickOnly)) {
+  if (look.pattern && !look.pattern->empty() && !(flags & ScenePrimFlag::kPickOnly)) {
     const double k = look.linetypeScale * lengthScale(c.toWorld);
     std::vector<double> scaled;
-    for (double d : pattern)
+    for (double d : *look.pattern)
       scaled.push_back(d * k);
     std::vector<QPointF> dashes;
     if (LinetypeDasher(scaled).dash(world, closed, dashes)) {
@@ -262,7 +261,7 @@ void SceneBuilder::emitCurve(const std::vector<QPointF>& world, bool closed, con
 void SceneBuilder::emitArc(const QPointF& center, const QPointF& u, const QPointF& v, double t0, double t1,
                            const SceneLook& look, const Context& c)
 {
-  if (!m_resolver.pattern(look.linetype).empty()) {
+  if (look.pattern && !look.pattern->empty()) {
     std::vector<QPointF> pts;
     const int n = std::max(8, int(std::ceil((t1 - t0) / SceneGeometry::kTwoPi * 96)));
     SceneGeometry::appendEllipse(pts, center, u, v, t0, t1, n);
@@ -735,12 +734,7 @@ void SceneBuilder::block(OdDbObjectId blockId, const Affine3& toWorld, const Sce
   Context inner;
   inner.toWorld = toWorld;
   inner.depth = c.depth + 1;
-  inner.inherit.inBlock = true;
-  inner.inherit.layer = look.layer;
-  inner.inherit.color = look.color;
-  inner.inherit.linetype = look.linetype;
-  inner.inherit.lineWeight = look.lineWeight;
-  inner.inherit.linetypeScale = look.linetypeScale;
+  inner.inherit = look.handedDown();
   m_blockStack.push_back(blockId.stub());
   for (const OdDbObjectId& id : block->entityIds()) {
     OdDbEntityPtr child = OdDbEntity::cast(id.openObject());
@@ -798,12 +792,7 @@ void SceneBuilder::blockReference(const OdDbEntity& e, const SceneLook& look, co
     return;
   // Attributes are entities of their own, in the space of the reference.
   Context attributes = c;
-  attributes.inherit.inBlock = true;
-  attributes.inherit.layer = look.layer;
-  attributes.inherit.color = look.color;
-  attributes.inherit.linetype = look.linetype;
-  attributes.inherit.lineWeight = look.lineWeight;
-  attributes.inherit.linetypeScale = look.linetypeScale;
+  attributes.inherit = look.handedDown();
   for (const OdDbObjectId& id : ref->attributeIds()) {
     OdDbEntityPtr att = OdDbEntity::cast(id.openObject());
     if (att.get())

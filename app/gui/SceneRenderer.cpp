@@ -2,6 +2,7 @@
 #include "app/gui/SceneRenderer.h"
 
 #include "app/gui/SceneGeometry.h"
+#include "app/gui/ThinLines.h"
 
 #include <QLinearGradient>
 #include <QPainterPath>
@@ -55,21 +56,45 @@ bool clipSegment(QPointF& a, QPointF& b, const QRectF& r)
   return true;
 }
 
-// Lines and dots gathered per style and drawn with one call each.
+// Lines and dots gathered per style and drawn with one call each. The
+// buffers stay between frames, so that drawing allocates nothing once warm.
 class Batch
 {
 public:
-  Batch(std::size_t styles, const QRectF& safe) : m_lines(styles), m_dots(styles), m_safe(safe) {}
+  Batch(std::size_t styles, const QRectF& safe) : m_safe(safe)
+  {
+    static thread_local std::vector<std::vector<QLineF>> lines;
+    static thread_local std::vector<std::vector<QPointF>> dots;
+    // A batch inside a batch (a highlight drawn while a frame draws) gets
+    // buffers of its own.
+    static thread_local bool busy = false;
+    m_owner = !busy;
+    busy = true;
+    m_lines = m_owner ? &lines : &m_ownLines;
+    m_dots = m_owner ? &dots : &m_ownDots;
+    if (m_lines->size() < styles) {
+      m_lines->resize(styles);
+      m_dots->resize(styles);
+    }
+    m_busy = &busy;
+  }
+  ~Batch()
+  {
+    if (m_owner)
+      *m_busy = false;
+  }
+  Batch(const Batch&) = delete;
+  Batch& operator=(const Batch&) = delete;
 
   void line(std::uint16_t style, QPointF a, QPointF b)
   {
-    if (!m_safe.contains(a) || !m_safe.contains(b)) {
+    if (!inside(a) || !inside(b)) {
       if (!clipSegment(a, b, m_safe))
         return;
     }
-    m_lines[style].emplace_back(a, b);
+    (*m_lines)[style].emplace_back(a, b);
   }
-  void dot(std::uint16_t style, const QPointF& p) { m_dots[style].push_back(p); }
+  void dot(std::uint16_t style, const QPointF& p) { (*m_dots)[style].push_back(p); }
 
   void polyline(std::uint16_t style, const QPointF* pts, std::uint32_t n, bool closed, const Mapper& m)
   {
@@ -89,30 +114,57 @@ public:
       line(style, last, first);
   }
 
-  void flush(QPainter& p, const std::vector<SceneStyle>& styles, const QColor* color, float width)
+  // `thin`, when given, draws the one-pixel lines of unsmoothed frames.
+  void flush(QPainter& p, const std::vector<SceneStyle>& styles, const QColor* color, float width, ThinLines* thin)
   {
-    for (std::size_t s = 0; s < m_lines.size(); ++s) {
-      if (m_lines[s].empty() && m_dots[s].empty())
+    for (std::size_t s = 0; s < styles.size() && s < m_lines->size(); ++s) {
+      auto& lines = (*m_lines)[s];
+      auto& dots = (*m_dots)[s];
+      if (lines.empty() && dots.empty())
         continue;
       const QColor c = color ? *color : QColor::fromRgb(styles[s].color);
       const float w = color ? width : styles[s].widthPx;
+      if (thin && w <= 1 && c.alpha() == 255) {
+        thin->lines(c.rgb(), lines.data(), int(lines.size()));
+        thin->points(c.rgb(), dots.data(), int(dots.size()));
+        lines.clear();
+        dots.clear();
+        continue;
+      }
       QPen pen(c, w);
       pen.setCosmetic(true);
       pen.setCapStyle(w > 1 ? Qt::RoundCap : Qt::SquareCap);
       pen.setJoinStyle(Qt::RoundJoin);
       p.setPen(pen);
-      if (!m_lines[s].empty())
-        p.drawLines(m_lines[s].data(), int(m_lines[s].size()));
-      if (!m_dots[s].empty())
-        p.drawPoints(m_dots[s].data(), int(m_dots[s].size()));
-      m_lines[s].clear();
-      m_dots[s].clear();
+      if (!lines.empty())
+        p.drawLines(lines.data(), int(lines.size()));
+      if (!dots.empty())
+        p.drawPoints(dots.data(), int(dots.size()));
+      lines.clear();
+      dots.clear();
     }
   }
 
+  // A buffer for the points of one curve, reused from curve to curve.
+  std::vector<QPointF>& scratch()
+  {
+    m_scratch.clear();
+    return m_scratch;
+  }
+
 private:
-  std::vector<std::vector<QLineF>> m_lines;
-  std::vector<std::vector<QPointF>> m_dots;
+  bool inside(const QPointF& p) const
+  {
+    return p.x() >= m_safe.left() && p.x() <= m_safe.right() && p.y() >= m_safe.top() && p.y() <= m_safe.bottom();
+  }
+
+  std::vector<std::vector<QLineF>>* m_lines;
+  std::vector<std::vector<QPointF>>* m_dots;
+  std::vector<std::vector<QLineF>> m_ownLines;
+  std::vector<std::vector<QPointF>> m_ownDots;
+  std::vector<QPointF> m_scratch;
+  bool m_owner = false;
+  bool* m_busy = nullptr;
   QRectF m_safe;
 };
 
@@ -202,6 +254,8 @@ struct Pass
   Mapper map;
   Batch batch;
   const QColor* overrideColor;
+  bool draft;
+  ThinLines* thin; // null: every line through the painter
 };
 
 void drawArc(Pass& pass, const ScenePrim& prim, std::uint16_t style)
@@ -218,8 +272,7 @@ void drawArc(Pass& pass, const ScenePrim& prim, std::uint16_t style)
   // Segments short enough to stay within a quarter pixel of the curve.
   const double step = 2.0 * std::acos(std::max(0.0, 1.0 - 0.25 / r));
   const int n = std::clamp(int(std::ceil((a.t1 - a.t0) / std::max(step, 1e-3))), 4, 1440);
-  std::vector<QPointF> pts;
-  pts.reserve(std::size_t(n) + 1);
+  std::vector<QPointF>& pts = pass.batch.scratch();
   SceneGeometry::appendEllipse(pts, c, u, v, a.t0, a.t1, n);
   for (std::size_t i = 1; i < pts.size(); ++i)
     pass.batch.line(style, pts[i - 1], pts[i]);
@@ -231,7 +284,7 @@ void drawText(Pass& pass, const ScenePrim& prim, std::uint16_t style, const QRec
   const QTransform m = t.toWorld * pass.view.worldToScreen();
   const QPointF base = m.map(QPointF(0, 0)), top = m.map(QPointF(0, -t.capHeight));
   const double capPx = std::hypot(top.x() - base.x(), top.y() - base.y());
-  if (capPx < 3.0) {
+  if (capPx < 2.5 || (pass.draft && !t.outline)) {
     // Too small to read: a stroke where the text runs.
     if (tiny(device))
       pass.batch.dot(style, device.center());
@@ -355,7 +408,10 @@ void SceneRenderer::render(QPainter& painter, const DrawingScene& scene, const V
   painter.setRenderHint(QPainter::Antialiasing, options.antialiased);
   painter.setRenderHint(QPainter::SmoothPixmapTransform, options.antialiased);
   Pass pass{painter, scene, view, map, Batch(scene.styles().size(), QRectF(deviceRect).adjusted(-2000, -2000, 2000, 2000)),
-            nullptr};
+            nullptr, options.draft, nullptr};
+  ThinLines thinStorage;
+  if (!options.antialiased && painter.transform().isIdentity())
+    pass.thin = ThinLines::forImage(dynamic_cast<QImage*>(painter.device()), deviceRect, thinStorage);
   const auto& prims = scene.prims();
   // Pictures and areas first, lines over them, text on top.
   for (std::uint32_t i : visible) {
@@ -373,13 +429,13 @@ void SceneRenderer::render(QPainter& painter, const DrawingScene& scene, const V
       continue;
     drawStroke(pass, prim, prim.style, map(prim.box));
   }
-  pass.batch.flush(painter, scene.styles(), nullptr, 0);
+  pass.batch.flush(painter, scene.styles(), nullptr, 0, pass.thin);
   for (std::uint32_t i : visible) {
     const ScenePrim& prim = prims[i];
     if (prim.kind == ScenePrimKind::Text && !(prim.flags & ScenePrimFlag::kPickOnly))
       drawText(pass, prim, prim.style, map(prim.box));
   }
-  pass.batch.flush(painter, scene.styles(), nullptr, 0);
+  pass.batch.flush(painter, scene.styles(), nullptr, 0, pass.thin);
   painter.restore();
 }
 
@@ -391,7 +447,7 @@ void SceneRenderer::renderPrims(QPainter& painter, const DrawingScene& scene, co
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing, options.antialiased);
   const QRect device(QPoint(0, 0), view.viewport());
-  Pass pass{painter, scene, view, map, Batch(1, QRectF(device).adjusted(-2000, -2000, 2000, 2000)), &color};
+  Pass pass{painter, scene, view, map, Batch(1, QRectF(device).adjusted(-2000, -2000, 2000, 2000)), &color, options.draft, nullptr};
   const auto& prims = scene.prims();
   for (std::uint32_t i : list) {
     const ScenePrim& prim = prims[i];
@@ -413,6 +469,6 @@ void SceneRenderer::renderPrims(QPainter& painter, const DrawingScene& scene, co
     }
   }
   const std::vector<SceneStyle> one{SceneStyle{color.rgba(), widthPx}};
-  pass.batch.flush(painter, one, &color, widthPx);
+  pass.batch.flush(painter, one, &color, widthPx, nullptr);
   painter.restore();
 }

@@ -15,6 +15,9 @@ public:
   struct Options
   {
     bool antialiased = true;
+    // A draft (drawn while the view moves) shows text whose outline was
+    // never made as a stroke, rather than stop to make it.
+    bool draft = false;
   };
 
   // Draws the scene's part in `deviceRect` (the painter is clipped to it).

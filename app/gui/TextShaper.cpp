@@ -56,34 +56,42 @@ QFont TextShaper::fontFor(const OdString& fileName, const OdString& typeface, bo
   return font;
 }
 
-const TextShaper::Style& TextShaper::style(const OdString& name)
+const TextShaper::Style& TextShaper::style(std::string_view text)
 {
+  auto known = m_styleByText.find(text);
+  if (known != m_styleByText.end())
+    return *known->second;
+  const OdString name = OdDxf::toOdString(text);
   const QString key = name.qstring().toCaseFolded();
-  auto it = m_styles.constFind(key);
-  if (it != m_styles.constEnd())
-    return *it;
-  Style s;
-  OdString typeface;
-  bool bold = false, italic = false;
-  OdString file;
-  OdDbTextStyleTableRecordPtr record;
-  if (m_db)
-    record = OdDbTextStyleTableRecord::cast(m_db->recordId(m_db->getTextStyleTableId(), name).openObject());
-  if (record.get()) {
-    int charset = 0, pitch = 0;
-    record->font(typeface, bold, italic, charset, pitch);
-    file = record->fileName();
-    s.widthFactor = record->xScale() > 0 ? record->xScale() : 1.0;
-    s.oblique = record->obliquingAngle();
-    s.fixedHeight = record->textSize();
-    s.backwards = record->isBackwards();
-    s.upsideDown = record->isUpsideDown();
+  auto it = m_styles.find(key);
+  if (it == m_styles.end()) {
+    auto s = std::make_unique<Style>();
+    OdString typeface;
+    bool bold = false, italic = false;
+    OdString file;
+    OdDbTextStyleTableRecordPtr record;
+    if (m_db)
+      record = OdDbTextStyleTableRecord::cast(m_db->recordId(m_db->getTextStyleTableId(), name).openObject());
+    if (record.get()) {
+      int charset = 0, pitch = 0;
+      record->font(typeface, bold, italic, charset, pitch);
+      file = record->fileName();
+      s->widthFactor = record->xScale() > 0 ? record->xScale() : 1.0;
+      s->oblique = record->obliquingAngle();
+      s->fixedHeight = record->textSize();
+      s->backwards = record->isBackwards();
+      s->upsideDown = record->isUpsideDown();
+    }
+    s->font = fontFor(file, typeface, bold, italic);
+    s->metrics = std::make_unique<QFontMetricsF>(s->font);
+    const Metrics m = metricsOf(s->font);
+    s->cap = m.cap;
+    s->ascent = m.ascent;
+    s->descent = m.descent;
+    it = m_styles.emplace(key, std::move(s)).first;
   }
-  s.font = fontFor(file, typeface, bold, italic);
-  const Metrics m = metricsOf(s.font);
-  s.capRatio = m.cap / kReferencePixels;
-  s.descentRatio = m.descent / kReferencePixels;
-  return *m_styles.insert(key, s);
+  m_styleByText.emplace(text, it->second.get());
+  return *it->second;
 }
 
 std::vector<ShapedText> TextShaper::text(const OdDbText& t, const Affine3& toWorld, const QString* shown)
@@ -91,12 +99,12 @@ std::vector<ShapedText> TextShaper::text(const OdDbText& t, const Affine3& toWor
   const QString string = MTextParser::decodeSpecialCodes(shown ? *shown : t.textString().qstring());
   if (string.trimmed().isEmpty())
     return {};
-  const Style& st = style(t.textStyleName());
+  const Style& st = style(t.rawValue(OdDbText::kSub, 7, "Standard"));
   double height = t.height();
   if (height <= 0)
     height = st.fixedHeight > 0 ? st.fixedHeight : (m_db ? m_db->getHeaderDouble("$TEXTSIZE", 2.5) : 2.5);
-  const Metrics m = metricsOf(st.font);
-  const double advance = QFontMetricsF(st.font).horizontalAdvance(string);
+  const Metrics m{st.cap, st.ascent, st.descent};
+  const double advance = st.metrics->horizontalAdvance(string);
   if (advance <= 0 || m.cap <= 0)
     return {};
 
@@ -148,7 +156,7 @@ std::vector<ShapedText> TextShaper::text(const OdDbText& t, const Affine3& toWor
 
 std::vector<ShapedText> TextShaper::mtext(const OdDbMText& t, const Affine3& toWorld)
 {
-  const Style& st = style(t.textStyleName());
+  const Style& st = style(t.rawValue(OdDbMText::kSub, 7, "Standard"));
   double height = t.textHeight();
   if (height <= 0)
     height = st.fixedHeight > 0 ? st.fixedHeight : 2.5;
@@ -178,9 +186,10 @@ std::vector<ShapedText> TextShaper::mtext(const OdDbMText& t, const Affine3& toW
       p.font.setBold(run.bold || st.font.bold());
       p.font.setItalic(run.italic || st.font.italic());
     }
-    p.metrics = metricsOf(p.font);
+    const bool plainFont = run.family.isEmpty() && !run.bold && !run.italic;
+    p.metrics = plainFont ? Metrics{st.cap, st.ascent, st.descent} : metricsOf(p.font);
     p.scale = run.height / p.metrics.cap;
-    p.advance = QFontMetricsF(p.font).horizontalAdvance(text);
+    p.advance = plainFont ? st.metrics->horizontalAdvance(text) : QFontMetricsF(p.font).horizontalAdvance(text);
     p.width = p.advance * p.scale * run.widthFactor * st.widthFactor;
     p.isSpace = text.trimmed().isEmpty();
     return p;

@@ -8,9 +8,12 @@
 #include "app/gui/SceneTypes.h"
 #include "sdk/db/OdCmColor.h"
 
-#include <QHash>
+#include <QFontMetricsF>
 
+#include <memory>
 #include <optional>
+#include <string_view>
+#include <unordered_map>
 
 class OdDbDatabase;
 class OdDbMText;
@@ -40,16 +43,18 @@ private:
   struct Style
   {
     QFont font;
-    double capRatio = 0.7;     // cap height per pixel of the font's size
-    double descentRatio = 0.2;
+    std::unique_ptr<QFontMetricsF> metrics;
+    double cap = 70, ascent = 90, descent = 20; // at the reference size
     double widthFactor = 1.0;
     double oblique = 0.0;
     double fixedHeight = 0.0;
     bool backwards = false, upsideDown = false;
   };
-  const Style& style(const OdString& name);
+  // By the bytes the text names its style with, as entities repeat them.
+  const Style& style(std::string_view name);
   static QFont fontFor(const OdString& fileName, const OdString& typeface, bool bold, bool italic);
 
   OdDbDatabase* m_db;
-  QHash<QString, Style> m_styles; // by case-folded name
+  std::unordered_map<std::string_view, const Style*> m_styleByText;
+  std::unordered_map<QString, std::unique_ptr<Style>> m_styles; // by case-folded name
 };
