@@ -4,7 +4,8 @@ SHELL := /bin/bash
 BUILD ?= build
 PACKAGES := cmake ninja-build g++ pkg-config qt6-base-dev qt6-image-formats-plugins \
             libgl-dev libtinyxml-dev libboost-dev libgif-dev libgtest-dev libgmock-dev \
-            googletest libbenchmark-dev python3-ezdxf fonts-dejavu-core ccache xvfb xauth
+            googletest libbenchmark-dev python3-ezdxf fonts-dejavu-core ccache xvfb xauth \
+            librsvg2-bin
 SUDO := $(shell [ "$$(id -u)" = 0 ] || echo sudo)
 JOBS ?= $(shell nproc)
 

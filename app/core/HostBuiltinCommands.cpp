@@ -6,6 +6,8 @@
 #include "app/core/HostCommandLine.h"
 #include "app/core/HostCommandTable.h"
 #include "app/core/HostDocumentManager.h"
+#include "app/core/HostDrawCommands.h"
+#include "app/core/HostEditCommands.h"
 #include "app/core/HostOutput.h"
 #include "app/core/HostToolPalettes.h"
 
@@ -197,6 +199,8 @@ void registerAll()
   add("Exit", &exitHost);
   add("SETDIR", &setDir);
   HostToolPalettes::registerCommands();
+  HostDrawCommands::registerCommands();
+  HostEditCommands::registerCommands();
 }
 
 } // namespace HostBuiltinCommands

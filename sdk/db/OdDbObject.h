@@ -25,7 +25,11 @@ public:
   OdDbHandle getDbHandle() const { return m_stub ? m_stub->handle : OdDbHandle(); }
   OdDbDatabase* database() const { return m_stub ? m_stub->database : nullptr; }
   OdDbObjectId ownerId() const { return m_owner; }
-  virtual void setOwnerId(OdDbObjectId owner) { m_owner = owner; }
+  virtual void setOwnerId(OdDbObjectId owner)
+  {
+    assertWriteEnabled();
+    m_owner = owner;
+  }
 
   bool isErased() const { return m_stub && m_stub->erased; }
   // Erases (or un-erases) the object; an erased object is not written.
@@ -41,6 +45,10 @@ public:
   void downgradeOpen() { m_openMode = OdDb::kForRead; }
   void close() { m_eraseToggled = false; }
   void setOpenMode(OdDb::OpenMode mode) { m_openMode = mode; }
+  // Every change of the object's data, owner or erase state goes through
+  // here first, so that the database's reactors hear of it before it
+  // happens. Code that edits dxfPairs() directly calls it itself.
+  void assertWriteEnabled() const;
 
   // True for objects of classes that the writing application did not
   // publish (proxies), kept as they were read.
