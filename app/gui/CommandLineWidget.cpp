@@ -80,7 +80,7 @@ CommandLineWidget::CommandLineWidget(GuiCommandInput& input, HostCompletionRegis
     updateCompletion();
   });
   connect(&m_input, &GuiCommandInput::waitingChanged, this, &CommandLineWidget::showPrompt);
-  showPrompt(m_input.isWaiting(), m_input.prompt());
+  showPrompt();
   setFocusProxy(m_line);
 }
 
@@ -108,9 +108,10 @@ void CommandLineWidget::focusInput()
   m_line->setFocus();
 }
 
-void CommandLineWidget::showPrompt(bool waiting, const OdString& prompt)
+void CommandLineWidget::showPrompt()
 {
-  QString text = waiting ? prompt.qstring().trimmed() : tr("Command:");
+  const bool waiting = m_input.isWaiting();
+  QString text = waiting ? m_input.prompt().message.qstring().trimmed() : tr("Command:");
   if (text.isEmpty())
     text = tr("Input:");
   m_prompt->setText(text);

@@ -54,7 +54,7 @@ private:
   void updateCompletion();
   void hideCompletion();
   void choose(int row);
-  void showPrompt(bool waiting, const OdString& prompt);
+  void showPrompt();
   void walkHistory(int step);
   void placeList();
 

@@ -1,6 +1,10 @@
 // The drawing view.
 #include "app/gui/DrawingView.h"
 
+#include "sdk/db/OdDbDatabase.h"
+#include "sdk/db/OdDbDatabaseReactor.h"
+#include "sdk/db/OdDbEntity.h"
+
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -21,7 +25,46 @@ QColor overlayColor(QRgb background)
 
 } // namespace
 
-DrawingView::DrawingView(QWidget* parent) : QWidget(parent)
+// Marks the view's scene stale when the drawing changes; the scene follows
+// at the next sync, once for however many changes.
+class DrawingView::DrawingListener : public OdDbDatabaseReactor
+{
+public:
+  explicit DrawingListener(DrawingView& view) : m_view(view) {}
+  void objectAppended(const OdDbDatabase* db, const OdDbObject* object) override { changed(db, object); }
+  void objectOpenedForModify(const OdDbDatabase* db, const OdDbObject* object) override { changed(db, object); }
+  void headerSysVarChanged(const OdDbDatabase*, const OdString& name) override
+  {
+    // The global linetype scale changes how every dashed line looks.
+    if (name.iCompare("LTSCALE") == 0)
+      m_view.m_drawingChanged = true;
+  }
+
+private:
+  // Entities of model space (and what they own) are followed one by one;
+  // a change elsewhere (a layer, a linetype, a block's definition) may
+  // change how anything looks, and the scene is made anew.
+  void changed(const OdDbDatabase* db, const OdDbObject* object)
+  {
+    m_view.m_drawingChanged = true;
+    if (m_view.m_rebuildScene || !object)
+      return;
+    const OdDbObjectId space = db->getModelSpaceId();
+    if (object->objectId() == space)
+      return;
+    const bool entity = object->isKindOf(OdDbEntity::desc());
+    OdDbObjectId owner = object->ownerId();
+    if (entity && owner != space)
+      if (OdDbObjectPtr parent = owner.openObject(OdDb::kForRead, true); parent.get())
+        owner = parent->ownerId();
+    if (!entity || owner != space)
+      m_view.m_rebuildScene = true;
+  }
+
+  DrawingView& m_view;
+};
+
+DrawingView::DrawingView(QWidget* parent) : QWidget(parent), m_listener(std::make_unique<DrawingListener>(*this))
 {
   setAttribute(Qt::WA_OpaquePaintEvent);
   setMouseTracking(true);
@@ -40,19 +83,35 @@ DrawingView::DrawingView(QWidget* parent) : QWidget(parent)
   });
 }
 
-DrawingView::~DrawingView() = default;
+DrawingView::~DrawingView()
+{
+  if (m_scene.database())
+    m_scene.database()->removeReactor(m_listener.get());
+}
 
 void DrawingView::setDatabase(OdDbDatabase* db)
 {
+  if (m_scene.database())
+    m_scene.database()->removeReactor(m_listener.get());
   m_selection.clear();
   m_scene.build(db);
+  m_drawingChanged = m_rebuildScene = false;
+  if (db)
+    db->addReactor(m_listener.get());
   zoomExtents();
 }
 
 bool DrawingView::syncWithDrawing()
 {
-  if (!m_scene.sync())
+  if (!m_drawingChanged)
     return false;
+  m_drawingChanged = false;
+  if (m_rebuildScene) {
+    m_rebuildScene = false;
+    m_scene.build(m_scene.database());
+  } else if (!m_scene.sync()) {
+    return false;
+  }
   // What was selected and is gone stays no longer selected.
   std::erase_if(m_selection, [this](const OdDbObjectId& id) { return m_scene.primsOf(id).empty(); });
   m_frameView.reset();
@@ -110,19 +169,21 @@ void DrawingView::pan(const QPointF& screenDelta)
   viewMoved();
 }
 
-void DrawingView::setPointWanted(bool wanted)
+void DrawingView::setInputWanted(const InputWanted& wanted)
 {
-  if (m_pointWanted == wanted)
-    return;
-  m_pointWanted = wanted;
-  if (!wanted)
+  m_wanted = wanted;
+  if (!wanted.point)
     m_snap.reset();
   update();
 }
 
 QPointF DrawingView::pointAt(const QPointF& screen, std::optional<SnapPoint>* snapped) const
 {
-  const QPointF world = m_view.toWorld(screen);
+  // Far finer than a pixel, without the noise of the screen's arithmetic:
+  // a click at 10,10 gives 10,10 and not 9.9999999999972.
+  const double step = std::pow(10.0, std::floor(std::log10(1.0 / m_view.scale())) - 3);
+  const QPointF raw = m_view.toWorld(screen);
+  const QPointF world(std::round(raw.x() / step) * step, std::round(raw.y() / step) * step);
   if (m_snapEnabled) {
     if (auto s = m_scene.snap(world, kAperture / m_view.scale())) {
       if (snapped)
@@ -249,8 +310,13 @@ void DrawingView::drawOverlay(QPainter& p)
   p.setPen(QPen(ink, 1));
   p.drawLine(QPointF(0, c.y()), QPointF(width(), c.y()));
   p.drawLine(QPointF(c.x(), 0), QPointF(c.x(), height()));
-  if (!m_pointWanted)
+  if (!m_wanted.point || m_wanted.entity)
     p.drawRect(QRectF(c.x() - kPickBox, c.y() - kPickBox, 2 * kPickBox, 2 * kPickBox));
+  if (m_wanted.point && m_wanted.basePoint) {
+    // The rubber band from the base point to where a click would land.
+    p.setPen(QPen(ink, 1, Qt::DashLine));
+    p.drawLine(m_view.toScreen(*m_wanted.basePoint), m_snap ? m_view.toScreen(m_snap->point) : c);
+  }
   if (m_snap) {
     // A square marks an end point, a circle a centre.
     const QPointF s = m_view.toScreen(m_snap->point);
@@ -307,7 +373,7 @@ void DrawingView::mouseMoveEvent(QMouseEvent* event)
     m_lastDrag -= delta - QPointF(std::round(delta.x()), std::round(delta.y()));
   }
   m_cursor = at;
-  if (m_pointWanted || m_zoomWindow)
+  if (m_wanted.point || m_zoomWindow)
     pointAt(at, &m_snap);
   else
     m_snap.reset();
@@ -347,11 +413,19 @@ void DrawingView::click(const QPointF& screen, Qt::KeyboardModifiers modifiers)
     update();
     return;
   }
-  if (m_pointWanted) {
+  const OdDbObjectId hit = m_scene.pick(m_view.toWorld(screen), kPickBox / m_view.scale());
+  // An object prompt takes what is under the pick box; one that also takes
+  // points takes the point when nothing is there.
+  if (m_wanted.entity && !hit.isNull()) {
+    emit entityPicked(hit);
+    return;
+  }
+  if (m_wanted.point) {
     emit pointPicked(pointAt(screen));
     return;
   }
-  const OdDbObjectId hit = m_scene.pick(m_view.toWorld(screen), kPickBox / m_view.scale());
+  if (m_wanted.entity)
+    return;
   std::vector<OdDbObjectId> selection = (modifiers & Qt::ShiftModifier) ? m_selection : std::vector<OdDbObjectId>();
   if (!hit.isNull()) {
     auto it = std::find(selection.begin(), selection.end(), hit);

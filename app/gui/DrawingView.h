@@ -25,10 +25,13 @@ public:
   explicit DrawingView(QWidget* parent = nullptr);
   ~DrawingView() override;
 
-  // Shows a drawing (null: nothing) and zooms to its extents.
+  // Shows a drawing (null: nothing) and zooms to its extents. The view
+  // listens to the drawing: it must go (or show another) before the
+  // drawing does.
   void setDatabase(OdDbDatabase* db);
   OdDbDatabase* database() const { return m_scene.database(); }
-  // Follows changes of the drawing; true when the picture changed.
+  // Follows changes of the drawing since the last call; true when the
+  // picture changed.
   bool syncWithDrawing();
   const DrawingScene& scene() const { return m_scene; }
 
@@ -42,10 +45,17 @@ public:
   void zoomAt(const QPointF& screen, double factor);
   void pan(const QPointF& screenDelta);
 
-  // While a command waits for a point, clicks answer it and the cursor
-  // snaps to end points and centres.
-  void setPointWanted(bool wanted);
-  bool isPointWanted() const { return m_pointWanted; }
+  // What a waiting command takes from the view: a point (clicks answer it,
+  // the cursor snaps to end points and centres, and a rubber band runs from
+  // the base point), an object (a click picks it), or both.
+  struct InputWanted
+  {
+    bool point = false;
+    bool entity = false;
+    std::optional<QPointF> basePoint;
+  };
+  void setInputWanted(const InputWanted& wanted);
+  bool isPointWanted() const { return m_wanted.point; }
   void setSnapEnabled(bool on) { m_snapEnabled = on; }
   bool isSnapEnabled() const { return m_snapEnabled; }
   // Where a click at `screen` lands: on a snap point within the aperture,
@@ -71,6 +81,7 @@ public:
 
 signals:
   void pointPicked(const QPointF& world);
+  void entityPicked(const OdDbObjectId& id);
   void selectionChanged();
   void cursorMoved(const QPointF& world);
   void viewChanged();
@@ -90,6 +101,7 @@ protected:
   void keyPressEvent(QKeyEvent* event) override;
 
 private:
+  class DrawingListener;
   void updateFrame();
   void renderFull(bool draft);
   void drawOverlay(QPainter& painter);
@@ -97,6 +109,9 @@ private:
   void viewMoved();
 
   DrawingScene m_scene;
+  std::unique_ptr<DrawingListener> m_listener;
+  bool m_drawingChanged = false; // since the last sync
+  bool m_rebuildScene = false;   // a change that entities alone do not tell
   ViewTransform m_view;
   SceneRenderer::Options m_options;
   QImage m_frame;
@@ -106,7 +121,7 @@ private:
   bool m_frameDraft = false;
   QTimer* m_smoothTimer = nullptr;
 
-  bool m_pointWanted = false;
+  InputWanted m_wanted;
   bool m_snapEnabled = true;
   bool m_zoomWindow = false;
   std::optional<QPointF> m_windowCorner; // world

@@ -47,15 +47,22 @@ GuiCommandInput::~GuiCommandInput()
 
 void GuiCommandInput::attach()
 {
-  m_app.commandLine().setInputProvider([this](const OdString& prompt, OdString& line) { return provide(prompt, line); });
+  m_app.commandLine().setInputWaiter([this] { return wait(); });
+  m_app.commandLine().setInputNotifier([this] { wake(); });
   m_app.editorEvents().addReactor(m_reactor.get());
 }
 
 void GuiCommandInput::detach()
 {
   endWaits();
-  m_app.commandLine().setInputProvider(nullptr);
+  m_app.commandLine().setInputWaiter(nullptr);
+  m_app.commandLine().setInputNotifier(nullptr);
   m_app.editorEvents().removeReactor(m_reactor.get());
+}
+
+const HostPrompt& GuiCommandInput::prompt() const
+{
+  return m_app.commandLine().activePrompt();
 }
 
 bool GuiCommandInput::isCommandActive() const
@@ -63,70 +70,26 @@ bool GuiCommandInput::isCommandActive() const
   return m_app.commandLine().isCommandActive();
 }
 
-bool GuiCommandInput::provide(const OdString& prompt, OdString& line)
+bool GuiCommandInput::wait()
 {
   if (m_app.exitRequested())
     return false;
   // A wait inside a wait (a command that a waiting command started): the
   // inner one takes the input, the outer resumes when it returns.
-  const bool outerWaiting = m_waiting;
-  const OdString outerPrompt = m_prompt;
-  m_waiting = true;
-  m_prompt = prompt;
-  m_answer.reset();
-  emit waitingChanged(true, prompt);
   QEventLoop loop;
   m_loops.push_back(&loop);
-  while (!m_answer && !m_app.exitRequested())
+  emit waitingChanged(true);
+  while (!m_app.commandLine().inputWaiting() && !m_app.exitRequested())
     loop.exec(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
   m_loops.pop_back();
-  const std::optional<OdString> answer = m_answer;
-  m_answer.reset();
-  m_waiting = outerWaiting;
-  m_prompt = outerPrompt;
-  emit waitingChanged(m_waiting, m_prompt);
-  if (!answer)
-    return false; // the program is ending: the command is cancelled
-  line = *answer;
-  return true;
+  emit waitingChanged(isWaiting());
+  return !m_app.exitRequested();
 }
 
-void GuiCommandInput::submit(const OdString& text)
+void GuiCommandInput::wake()
 {
-  if (m_waiting && !m_loops.empty() && m_loops.back()) {
-    QString answer = text.qstring();
-    // The command line ends what it is given with Enter itself.
-    if (answer.endsWith(u'\n'))
-      answer.chop(1);
-    m_answer = OdString(answer);
+  if (!m_loops.empty() && m_loops.back())
     m_loops.back()->quit();
-    return;
-  }
-  QString line = text.qstring();
-  if (!line.endsWith(u'\n'))
-    line += u'\n';
-  m_app.commandLine().type(OdString(line));
-}
-
-void GuiCommandInput::submitEmpty()
-{
-  if (m_waiting) {
-    submit(OdString());
-    return;
-  }
-  if (!m_lastCommand.isEmpty())
-    submit(m_lastCommand);
-}
-
-void GuiCommandInput::submitPoint(const QPointF& world)
-{
-  submit(pointText(world));
-}
-
-void GuiCommandInput::cancel()
-{
-  if (m_waiting)
-    submit("^C");
 }
 
 void GuiCommandInput::endWaits()
@@ -136,7 +99,36 @@ void GuiCommandInput::endWaits()
       loop->quit();
 }
 
-OdString GuiCommandInput::pointText(const QPointF& world)
+void GuiCommandInput::submit(const OdString& text)
 {
-  return OdString(QStringLiteral("%1,%2").arg(world.x(), 0, 'g', 12).arg(world.y(), 0, 'g', 12));
+  QString line = text.qstring();
+  if (!line.endsWith(u'\n'))
+    line += u'\n';
+  // Typed input reaches the waiting prompt, or else starts a command; the
+  // command line tells the wait that it came.
+  m_app.commandLine().type(OdString(line));
+}
+
+void GuiCommandInput::submitEmpty()
+{
+  if (prompt().kind != HostPrompt::kNone)
+    submit(OdString());
+  else if (!m_lastCommand.isEmpty())
+    submit(m_lastCommand);
+}
+
+void GuiCommandInput::submitPoint(const QPointF& world)
+{
+  m_app.commandLine().submitPoint(OdGePoint3d(world.x(), world.y(), 0.0));
+}
+
+void GuiCommandInput::submitEntity(const OdDbObjectId& id)
+{
+  m_app.commandLine().submitEntity(id);
+}
+
+void GuiCommandInput::cancel()
+{
+  if (prompt().kind != HostPrompt::kNone)
+    submit("^C");
 }

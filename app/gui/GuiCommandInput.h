@@ -1,19 +1,18 @@
 // The desktop program's side of the command processor. Commands run to
-// their end on the main thread; when one waits for input that was not typed
+// their end on the main thread; when one waits for input that was not given
 // yet, the program keeps handling window events until the user types a
-// line, clicks a point or cancels. Everything the user enters goes through
-// here: to the waiting command, or else to the command line as a new
-// command.
+// line, clicks a point, picks an object or cancels. Everything the user
+// enters goes through here.
 #pragma once
 
+#include "app/core/HostPrompt.h"
 #include "hostsdk/core/HostEditorReactor.h"
-#include "sdk/kernel/OdString.h"
 
 #include <QObject>
 #include <QPointF>
 #include <QPointer>
 
-#include <optional>
+#include <memory>
 #include <vector>
 
 class HostApp;
@@ -31,45 +30,44 @@ public:
   void attach();
   void detach();
 
-  // What the user entered: the answer of the waiting command, else command
-  // line input. Text in the host's macro notation ("^C" cancels).
+  // What the user typed, ended with Enter: the answer of the waiting
+  // prompt, or a command. Text in the host's macro notation ("^C" cancels).
   void submit(const OdString& text);
-  // Enter on an empty line: the waiting command's default, or else the
-  // last command again.
+  // Enter on an empty line: the waiting prompt's default, or else the last
+  // command again.
   void submitEmpty();
-  // A point clicked in the drawing.
+  // A point clicked in the drawing, for a prompt that takes one.
   void submitPoint(const QPointF& world);
-  // Escape: cancels the waiting command.
+  // An object picked in the drawing, for a prompt that takes one.
+  void submitEntity(const OdDbObjectId& id);
+  // Escape: cancels the waiting prompt.
   void cancel();
   // Ends every wait at once; with the host told to exit, each waiting
   // command then ends as cancelled (the window is closing).
   void endWaits();
 
-  bool isWaiting() const { return m_waiting; }
-  OdString prompt() const { return m_prompt; }
+  bool isWaiting() const { return !m_loops.empty(); }
+  // What the running command waits for (kind kNone when nothing waits).
+  const HostPrompt& prompt() const;
   bool isCommandActive() const;
   OdString lastCommand() const { return m_lastCommand; }
-  // Text for a point as the command line reads it.
-  static OdString pointText(const QPointF& world);
 
 signals:
-  // A command waits for input (with its prompt), or none does any more.
-  void waitingChanged(bool waiting, const OdString& prompt);
-  // A command the user started ended, one way or another: time to bring
-  // the windows in line with the drawings.
+  // A prompt waits for input, or none does any more.
+  void waitingChanged(bool waiting);
+  // The outermost command ended, one way or another: time to bring the
+  // windows in line with the drawings.
   void commandFinished(const OdString& name);
   void commandStarted(const OdString& name);
 
 private:
   class Reactor;
-  bool provide(const OdString& prompt, OdString& line);
+  bool wait();
+  void wake();
 
   HostApp& m_app;
   std::unique_ptr<Reactor> m_reactor;
-  bool m_waiting = false;
-  OdString m_prompt;
-  std::optional<OdString> m_answer; // set while waiting, ends the wait
   std::vector<QPointer<QEventLoop>> m_loops; // the waits, innermost last
-  int m_depth = 0;                  // commands running, outermost first
+  int m_depth = 0;                           // commands running
   OdString m_lastCommand;
 };

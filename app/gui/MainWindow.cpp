@@ -6,6 +6,7 @@
 #include "app/core/HostCommandTable.h"
 #include "app/core/HostCompletionRegistryImpl.h"
 #include "app/core/HostDocumentManager.h"
+#include "app/core/HostEditorEventsImpl.h"
 #include "app/core/HostServicesImpl.h"
 #include "app/gui/CommandLineWidget.h"
 #include "app/gui/DrawingView.h"
@@ -28,6 +29,8 @@
 #include <QTabWidget>
 #include <QTimer>
 
+#include "hostsdk/core/HostDocManagerReactor.h"
+
 #include <exception>
 
 namespace {
@@ -47,7 +50,26 @@ QString plain(QString text)
 
 } // namespace
 
-MainWindow::MainWindow(HostApp& app) : m_app(app)
+// Follows the host's documents: tabs come when documents do, and a tab
+// goes before its drawing does.
+class MainWindow::DocumentListener : public HostDocManagerReactor
+{
+public:
+  explicit DocumentListener(MainWindow& window) : m_window(window) {}
+  void documentCreated(HostDocument*) override { later(); }
+  void documentActivated(HostDocument*) override { later(); }
+  void documentToBeDestroyed(HostDocument* document) override
+  {
+    m_window.documentGoes(static_cast<HostDocumentImpl*>(document));
+    later();
+  }
+
+private:
+  void later() { QTimer::singleShot(0, &m_window, &MainWindow::syncDocuments); }
+  MainWindow& m_window;
+};
+
+MainWindow::MainWindow(HostApp& app) : m_app(app), m_documentListener(std::make_unique<DocumentListener>(*this))
 {
   setObjectName(QStringLiteral("VerdaniMainWindow"));
   setWindowTitle(QStringLiteral("Verdani"));
@@ -79,10 +101,7 @@ MainWindow::MainWindow(HostApp& app) : m_app(app)
   connect(m_tabs, &QTabWidget::currentChanged, this, &MainWindow::tabChosen);
   connect(m_tabs, &QTabWidget::tabCloseRequested, this, &MainWindow::closeTab);
   connect(m_input, &GuiCommandInput::commandFinished, this, &MainWindow::commandFinished);
-  connect(m_input, &GuiCommandInput::waitingChanged, this, [this](bool waiting, const OdString&) {
-    for (const Page& page : m_pages)
-      page.view->setPointWanted(waiting);
-  });
+  connect(m_input, &GuiCommandInput::waitingChanged, this, &MainWindow::promptChanged);
   connect(m_commandLine, &CommandLineWidget::escapeWithNothingToCancel, this, [this] {
     if (DrawingView* view = currentView())
       if (!view->cancelViewAction())
@@ -124,12 +143,11 @@ void MainWindow::buildMenus()
   file->addAction(tr("E&xit"), QKeySequence::Quit, this, [this] { close(); });
 
   QMenu* edit = menuBar()->addMenu(tr("&Edit"));
-  QAction* undo = edit->addAction(tr("&Undo"));
-  undo->setShortcut(QKeySequence::Undo);
-  undo->setEnabled(false);
-  QAction* redo = edit->addAction(tr("&Redo"));
-  redo->setShortcut(QKeySequence::Redo);
-  redo->setEnabled(false);
+  m_undo = edit->addAction(tr("&Undo"), QKeySequence::Undo, this, [this] { undoOrRedo(true); });
+  m_redo = edit->addAction(tr("&Redo"), QKeySequence::Redo, this, [this] { undoOrRedo(false); });
+  m_undo->setObjectName(QStringLiteral("Undo"));
+  m_redo->setObjectName(QStringLiteral("Redo"));
+  connect(edit, &QMenu::aboutToShow, this, &MainWindow::updateEditActions);
 
   QMenu* view = menuBar()->addMenu(tr("&View"));
   view->addAction(tr("Zoom &Extents"), this, [this] {
@@ -176,8 +194,10 @@ QAction* MainWindow::action(const QString& path) const
   QAction* found = nullptr;
   for (const QString& part : parts) {
     found = nullptr;
+    // By the text, or by the name of an entry whose text changes ("Undo
+    // LINE" is "Undo").
     for (QAction* a : level)
-      if (plain(a->text()).compare(part, Qt::CaseInsensitive) == 0)
+      if (plain(a->text()).compare(part, Qt::CaseInsensitive) == 0 || a->objectName().compare(part, Qt::CaseInsensitive) == 0)
         found = a;
     if (!found)
       return nullptr;
@@ -198,6 +218,7 @@ void MainWindow::startHost(const GuiOptions& options)
   if (!options.drawings.empty())
     start.drawing = options.drawings.front();
   m_input->attach();
+  m_app.editorEvents().addDocManagerReactor(m_documentListener.get());
   m_app.start(start);
   m_hostRunning = true;
   m_app.completionRegistry().addProvider("commands", &m_commandEntries);
@@ -229,6 +250,7 @@ void MainWindow::stopHost()
   m_pages.clear();
   m_syncing = false;
   m_input->detach();
+  m_app.editorEvents().removeDocManagerReactor(m_documentListener.get());
   m_app.shutdown();
   m_app.setOutputSink(nullptr);
   m_app.services().setMainWindow(nullptr);
@@ -243,8 +265,9 @@ DrawingView* MainWindow::currentView() const
 DrawingView* MainWindow::makeView()
 {
   auto* view = new DrawingView(m_tabs);
-  view->setPointWanted(m_input->isWaiting());
+  view->setInputWanted(inputWanted());
   connect(view, &DrawingView::pointPicked, this, [this](const QPointF& p) { m_input->submitPoint(p); });
+  connect(view, &DrawingView::entityPicked, this, [this](const OdDbObjectId& id) { m_input->submitEntity(id); });
   connect(view, &DrawingView::cancelRequested, this, [this] { m_input->cancel(); });
   connect(view, &DrawingView::cursorMoved, this, [this](const QPointF& p) {
     m_coordinates->setText(QStringLiteral("%1, %2").arg(p.x(), 0, 'f', 4).arg(p.y(), 0, 'f', 4));
@@ -256,6 +279,29 @@ DrawingView* MainWindow::makeView()
     QApplication::sendEvent(m_commandLine->inputLine(), &copy);
   });
   return view;
+}
+
+DrawingView::InputWanted MainWindow::inputWanted() const
+{
+  DrawingView::InputWanted wanted;
+  if (!m_input->isWaiting())
+    return wanted;
+  const HostPrompt& prompt = m_input->prompt();
+  wanted.point = prompt.takesPoint();
+  wanted.entity = prompt.takesEntity();
+  if (prompt.hasBasePoint)
+    wanted.basePoint = QPointF(prompt.basePoint.x, prompt.basePoint.y);
+  return wanted;
+}
+
+void MainWindow::promptChanged()
+{
+  const DrawingView::InputWanted wanted = inputWanted();
+  for (const Page& page : m_pages)
+    page.view->setInputWanted(wanted);
+  // What a command drew so far shows while it asks for more.
+  if (DrawingView* view = currentView())
+    view->syncWithDrawing();
 }
 
 void MainWindow::runMacro(const QString& macro)
@@ -309,7 +355,48 @@ void MainWindow::syncDocuments()
   }
   m_syncing = false;
   m_toolPalettes->setChecked(toolPalettesState() == 3);
+  updateEditActions();
   updateTitle();
+}
+
+void MainWindow::documentGoes(HostDocumentImpl* document)
+{
+  for (auto it = m_pages.begin(); it != m_pages.end(); ++it) {
+    if (it->document != document)
+      continue;
+    m_syncing = true;
+    delete it->view;
+    m_pages.erase(it);
+    m_syncing = false;
+    return;
+  }
+}
+
+void MainWindow::updateEditActions()
+{
+  HostDocumentImpl* document = m_hostRunning ? m_app.documents().current() : nullptr;
+  const bool canUndo = document && document->canUndo(), canRedo = document && document->canRedo();
+  m_undo->setEnabled(canUndo);
+  m_redo->setEnabled(canRedo);
+  const OdString undoName = canUndo ? document->undoJournal().undoName() : OdString();
+  const OdString redoName = canRedo ? document->undoJournal().redoName() : OdString();
+  m_undo->setText(undoName.isEmpty() ? tr("&Undo") : tr("&Undo %1").arg(undoName.qstring()));
+  m_redo->setText(redoName.isEmpty() ? tr("&Redo") : tr("&Redo %1").arg(redoName.qstring()));
+}
+
+void MainWindow::undoOrRedo(bool undo)
+{
+  HostDocumentImpl* document = m_app.documents().current();
+  if (!document)
+    return;
+  // In the middle of a command the command goes first, as typing U does.
+  if (m_input->isCommandActive()) {
+    runMacro(undo ? "^C^CU" : "^C^CREDO");
+    return;
+  }
+  if (!(undo ? document->undo() : document->redo()))
+    m_app.output().printLine(undo ? "Nothing to undo." : "Nothing to redo.");
+  syncDocuments();
 }
 
 void MainWindow::updateTitle()

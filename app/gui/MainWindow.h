@@ -4,14 +4,15 @@
 // cursor's coordinates. It starts and stops the host around itself.
 #pragma once
 
+#include "app/gui/DrawingView.h"
 #include "hostsdk/core/HostEdCompletion.h"
 
 #include <QMainWindow>
 
+#include <memory>
 #include <vector>
 
 class CommandLineWidget;
-class DrawingView;
 class GuiCommandInput;
 class HostApp;
 class HostDocumentImpl;
@@ -53,6 +54,7 @@ protected:
   void closeEvent(QCloseEvent* event) override;
 
 private:
+  class DocumentListener;
   struct Page
   {
     HostDocumentImpl* document;
@@ -69,9 +71,14 @@ private:
   void closeTab(int index);
   void commandFinished();
   void toolPalettesMenuShown();
+  void updateEditActions();
+  void undoOrRedo(bool undo);
+  void documentGoes(HostDocumentImpl* document);
   int toolPalettesState() const;
   void updateTitle();
   DrawingView* makeView();
+  DrawingView::InputWanted inputWanted() const;
+  void promptChanged();
 
   HostApp& m_app;
   GuiCommandInput* m_input = nullptr;
@@ -80,6 +87,9 @@ private:
   QLabel* m_coordinates = nullptr;
   QMenu* m_recentMenu = nullptr;
   QAction* m_toolPalettes = nullptr;
+  QAction* m_undo = nullptr;
+  QAction* m_redo = nullptr;
+  std::unique_ptr<DocumentListener> m_documentListener;
   std::vector<Page> m_pages;
   bool m_syncing = false;
   bool m_hostRunning = false;
