@@ -99,6 +99,7 @@ void DrawingView::setDatabase(OdDbDatabase* db)
   if (db)
     db->addReactor(m_listener.get());
   zoomExtents();
+  m_keepFramed = true;
 }
 
 bool DrawingView::syncWithDrawing()
@@ -121,6 +122,7 @@ bool DrawingView::syncWithDrawing()
 
 void DrawingView::setView(const ViewTransform& view)
 {
+  m_keepFramed = false;
   m_view = view;
   m_view.setViewport(size());
   viewMoved();
@@ -159,12 +161,14 @@ bool DrawingView::cancelViewAction()
 
 void DrawingView::zoomAt(const QPointF& screen, double factor)
 {
+  m_keepFramed = false;
   m_view.zoomAt(screen, factor);
   viewMoved();
 }
 
 void DrawingView::pan(const QPointF& screenDelta)
 {
+  m_keepFramed = false;
   m_view.pan(screenDelta);
   viewMoved();
 }
@@ -331,9 +335,13 @@ void DrawingView::drawOverlay(QPainter& p)
 
 void DrawingView::resizeEvent(QResizeEvent*)
 {
-  // The same world point stays in the middle.
-  m_view.setViewport(size());
   m_frameView.reset();
+  if (m_keepFramed) {
+    zoomExtents();
+    return;
+  }
+  // Otherwise the same world point stays in the middle.
+  m_view.setViewport(size());
   emit viewChanged();
 }
 
@@ -406,6 +414,7 @@ void DrawingView::click(const QPointF& screen, Qt::KeyboardModifiers modifiers)
       m_zoomWindow = false;
       m_windowCorner.reset();
       if (area.width() > 0 || area.height() > 0) {
+        m_keepFramed = false;
         m_view.fit(area, 0.0);
         viewMoved();
       }

@@ -123,6 +123,9 @@ private:
 
   InputWanted m_wanted;
   bool m_snapEnabled = true;
+  // Until the user moves the view, a drawing just shown stays framed
+  // whole while the window settles into its size.
+  bool m_keepFramed = false;
   bool m_zoomWindow = false;
   std::optional<QPointF> m_windowCorner; // world
   std::vector<OdDbObjectId> m_selection;

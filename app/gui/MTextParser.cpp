@@ -44,6 +44,16 @@ public:
         // Single-line text's codes work here too.
         m_text += MTextParser::decodeSpecialCodes(m_s.mid(m_i - 1, 3));
         m_i += 2;
+      } else if (c == u'^' && m_i < m_s.size()) {
+        // A control character in the format's caret notation: ^J is a new
+        // line, ^I a tab, "^ " the caret itself.
+        const QChar next = m_s.at(m_i++);
+        if (next == u'J')
+          newParagraph();
+        else if (next == u'I')
+          m_text += QStringLiteral("    ");
+        else if (next == u' ')
+          m_text += u'^';
       } else if (c == u'\n') {
         newParagraph();
       } else {

@@ -338,7 +338,6 @@ void MainWindow::syncDocuments()
       continue;
     DrawingView* view = makeView();
     m_tabs->addTab(view, document->documentName().qstring());
-    view->resize(m_tabs->size());
     view->setDatabase(document->database());
     m_pages.push_back(Page{document, document->database(), view});
   }
@@ -444,11 +443,12 @@ void MainWindow::closeTab(int index)
 
 void MainWindow::commandFinished()
 {
-  if (m_app.exitRequested()) {
+  // Once the command processor is done with it (its undo step closes after
+  // the events that end it).
+  if (m_app.exitRequested())
     QTimer::singleShot(0, this, &QWidget::close);
-    return;
-  }
-  syncDocuments();
+  else
+    QTimer::singleShot(0, this, &MainWindow::syncDocuments);
 }
 
 void MainWindow::openDrawing()
