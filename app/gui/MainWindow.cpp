@@ -1,5 +1,7 @@
 // The main window.
 #include "app/gui/MainWindow.h"
+#include "app/gui/PatternChoiceDialog.h"
+#include "hostsdk/patterns/VerdaniCmd1.h"
 
 #include "app/core/HostApp.h"
 #include "app/core/HostCommandLine.h"
@@ -211,6 +213,7 @@ void MainWindow::startHost(const GuiOptions& options)
   m_app.setOutputSink([this](const OdString& text) { m_commandLine->appendOutput(text); });
   m_app.services().setMainWindow(this);
   hostSetMessageBoxHandler(&windowMessageBox);
+  hostSetHatchPatternDialog(&PatternChoiceDialog::run);
   HostStartOptions start;
   start.settings = options.settings;
   start.modules = {OdString("toolpalettes")};
@@ -255,6 +258,7 @@ void MainWindow::stopHost()
   m_app.setOutputSink(nullptr);
   m_app.services().setMainWindow(nullptr);
   hostSetMessageBoxHandler(nullptr);
+  hostSetHatchPatternDialog(nullptr);
 }
 
 DrawingView* MainWindow::currentView() const

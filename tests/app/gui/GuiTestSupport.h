@@ -85,6 +85,17 @@ private:
   bool m_running = false;
 };
 
+// Runs `step` on the modal window that opens next.
+inline void onNextModal(std::function<void(QWidget*)> step)
+{
+  QTimer::singleShot(0, [step] {
+    if (QWidget* modal = QApplication::activeModalWidget())
+      step(modal);
+    else
+      onNextModal(step);
+  });
+}
+
 // Processes events until `condition` holds or the time is up.
 inline bool waitFor(const std::function<bool()>& condition, int ms = 5000)
 {

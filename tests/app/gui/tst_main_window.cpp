@@ -6,6 +6,8 @@
 #include "app/gui/CommandLineWidget.h"
 #include "app/gui/DrawingView.h"
 #include "app/gui/GuiCommandInput.h"
+#include "app/gui/PatternChoiceDialog.h"
+#include "hostsdk/patterns/VerdaniCmd1.h"
 #include "app/gui/RecentFiles.h"
 #include "sdk/dxf/OdDxf.h"
 #include "tests/app/gui/GuiTestSupport.h"
@@ -256,6 +258,28 @@ TEST_F(WindowTest, drawingsAreNotSwitchedInTheMiddleOfACommand)
   play({enter("LINE"), [this] { m_window->tabs()->setCurrentIndex(0); }, key(Qt::Key_Escape)});
   EXPECT_EQ(app().documents().current(), second);
   EXPECT_TRUE(history().contains("before switching drawings"));
+}
+
+TEST_F(WindowTest, patternChoiceIsTheWindowsDialog)
+{
+  QString shown;
+  onNextModal([&](QWidget* w) {
+    auto* dialog = qobject_cast<PatternChoiceDialog*>(w);
+    ASSERT_NE(dialog, nullptr);
+    ASSERT_GT(dialog->list()->count(), 2);
+    EXPECT_FALSE(dialog->list()->item(0)->icon().isNull()) << "each pattern with its picture";
+    dialog->list()->setCurrentRow(2);
+    shown = dialog->list()->item(2)->text();
+    dialog->accept();
+  });
+  OdString file, name;
+  OdArray<OdString> list;
+  ASSERT_TRUE(hostGetHatchPatterns(kHostHatchStandard, file, list, name));
+  EXPECT_EQ(name.qstring(), shown);
+  EXPECT_GT(list.size(), 2u);
+
+  onNextModal([](QWidget* w) { static_cast<PatternChoiceDialog*>(w)->reject(); });
+  EXPECT_FALSE(hostGetHatchPatterns(kHostHatchStandard, file, list, name)) << "cancelled";
 }
 
 TEST_F(WindowTest, toolPalettesEntryFollowsTheCommandsState)
