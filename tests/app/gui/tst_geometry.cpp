@@ -20,6 +20,7 @@ struct BulgeRow
   QPointF center;
   double radius;
   double sweepDegrees; // signed: positive counter-clockwise
+  friend void PrintTo(const BulgeRow& r, std::ostream* os) { *os << "bulge " << r.bulge; }
 };
 
 class Bulges : public ::testing::TestWithParam<BulgeRow>
@@ -62,6 +63,10 @@ struct PlaneRow
   OdGeVector3d normal;
   OdGePoint3d local;
   OdGePoint3d world;
+  friend void PrintTo(const PlaneRow& r, std::ostream* os)
+  {
+    *os << "normal " << r.normal.x << "," << r.normal.y << "," << r.normal.z;
+  }
 };
 
 class Planes : public ::testing::TestWithParam<PlaneRow>
@@ -119,6 +124,11 @@ struct DashCase
   std::vector<double> pattern;
   std::vector<QPointF> path;
   std::vector<std::pair<double, double>> dashesAlongX; // expected dashes on a straight x path
+  friend void PrintTo(const DashCase& r, std::ostream* os)
+  {
+    for (double d : r.pattern)
+      *os << d << " ";
+  }
 };
 
 class Dashes : public ::testing::TestWithParam<DashCase>
@@ -194,6 +204,7 @@ struct MTextRow
 {
   const char* contents;
   std::vector<std::vector<const char*>> paragraphs; // the texts of the runs
+  friend void PrintTo(const MTextRow& r, std::ostream* os) { *os << r.contents; }
 };
 
 class MTextCodes : public ::testing::TestWithParam<MTextRow>
@@ -240,6 +251,7 @@ struct SpecialRow
 {
   const char* in;
   const char* out;
+  friend void PrintTo(const SpecialRow& r, std::ostream* os) { *os << r.in; }
 };
 
 class SpecialCodes : public ::testing::TestWithParam<SpecialRow>

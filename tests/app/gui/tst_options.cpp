@@ -11,6 +11,11 @@ struct OptionRow
   std::vector<const char*> args;
   bool ok;
   const char* errorPart; // in the message when refused
+  friend void PrintTo(const OptionRow& r, std::ostream* os)
+  {
+    for (const char* a : r.args)
+      *os << a << " ";
+  }
 };
 
 class Options : public ::testing::TestWithParam<OptionRow>

@@ -57,6 +57,7 @@ struct KindRow
   const char* name;
   std::function<void(OdDbDatabase*)> make; // adds the entity last in model space
   QRectF box;                              // where it must land
+  friend void PrintTo(const KindRow& r, std::ostream* os) { *os << r.name; }
 };
 
 class SceneKinds : public ::testing::TestWithParam<KindRow>
@@ -300,6 +301,7 @@ struct VisibilityRow
   bool off, frozen;
   std::size_t shownOfBlock; // of the block's two lines (one on 0, one on "Other")
   bool modelLineShown;
+  friend void PrintTo(const VisibilityRow& r, std::ostream* os) { *os << r.name; }
 };
 
 class SceneVisibility : public ::testing::TestWithParam<VisibilityRow>
@@ -336,6 +338,7 @@ struct DashRow
 {
   double ltscale;
   std::size_t dashes;
+  friend void PrintTo(const DashRow& r, std::ostream* os) { *os << "LTSCALE " << r.ltscale; }
 };
 
 class SceneDashes : public ::testing::TestWithParam<DashRow>

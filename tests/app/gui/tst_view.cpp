@@ -74,6 +74,7 @@ TEST_F(ViewTest, wheelZoomsAtTheCursor)
 struct PanRow
 {
   Qt::MouseButton button;
+  friend void PrintTo(const PanRow& r, std::ostream* os) { *os << (r.button == Qt::LeftButton ? "left" : "middle"); }
 };
 
 class ViewPan : public ViewTest, public ::testing::WithParamInterface<PanRow>

@@ -38,6 +38,7 @@ struct ColorTextRow
   const char* text;
   bool valid;
   const char* formatted; // how the colour read is written back
+  friend void PrintTo(const ColorTextRow& r, std::ostream* os) { *os << '"' << r.text << '"'; }
 };
 
 class ColorText : public ::testing::TestWithParam<ColorTextRow>
@@ -73,6 +74,7 @@ struct FilterRow
 {
   const char* host;
   const char* qt;
+  friend void PrintTo(const FilterRow& r, std::ostream* os) { *os << '"' << r.host << '"'; }
 };
 
 class Filters : public ::testing::TestWithParam<FilterRow>
@@ -178,6 +180,7 @@ struct TypedColorRow
   const char* answer; // null: no input left
   bool result;
   const char* after;
+  friend void PrintTo(const TypedColorRow& r, std::ostream* os) { *os << (r.answer ? r.answer : "(no input)"); }
 };
 
 class ColorOnCommandLine : public ::testing::TestWithParam<TypedColorRow>

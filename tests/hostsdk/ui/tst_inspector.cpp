@@ -158,6 +158,7 @@ struct RefusalRow
 {
   const char* typed;
   const char* message;
+  friend void PrintTo(const RefusalRow& r, std::ostream* os) { *os << "typed " << r.typed; }
 };
 
 class InspectorRefusal : public InspectorTest, public ::testing::WithParamInterface<RefusalRow>

@@ -61,6 +61,7 @@ struct DockingRow
 {
   unsigned alignment;
   Qt::DockWidgetAreas areas;
+  friend void PrintTo(const DockingRow& r, std::ostream* os) { *os << "alignment " << std::hex << r.alignment; }
 };
 
 class PaletteSetDocking : public ::testing::TestWithParam<DockingRow>
@@ -166,6 +167,7 @@ struct DialogRow
   DialogEnd end;
   int result;
   const char* lastStep;
+  friend void PrintTo(const DialogRow& r, std::ostream* os) { *os << r.lastStep; }
 };
 
 class DialogEnding : public ::testing::TestWithParam<DialogRow>
