@@ -13,7 +13,8 @@
 //   screenshot FILE        a picture of the main window
 //   expect entities N      model space of the current drawing has N entities
 //   expect output TEXT     the command line printed TEXT
-//   exit                   closes the window (the end of the script does too)
+//   exit                   closes the window, changed drawings left unsaved
+//                          (the end of the script does too)
 #pragma once
 
 #include <QObject>

@@ -6,6 +6,7 @@
 #include "app/core/HostApp.h"
 #include "app/core/HostCommandLine.h"
 #include "app/core/HostCommandTable.h"
+#include "hostsdk/core/CmdInterfaces.h"
 #include "app/core/HostCompletionRegistryImpl.h"
 #include "app/core/HostDocumentManager.h"
 #include "app/core/HostEditorEventsImpl.h"
@@ -103,6 +104,8 @@ MainWindow::MainWindow(HostApp& app) : m_app(app), m_documentListener(std::make_
   connect(m_tabs, &QTabWidget::currentChanged, this, &MainWindow::tabChosen);
   connect(m_tabs, &QTabWidget::tabCloseRequested, this, &MainWindow::closeTab);
   connect(m_input, &GuiCommandInput::commandFinished, this, &MainWindow::commandFinished);
+  connect(m_input, &GuiCommandInput::commandStarted, this,
+          [this] { m_commandStarted = QDateTime::currentDateTime().addSecs(-1); });
   connect(m_input, &GuiCommandInput::waitingChanged, this, &MainWindow::promptChanged);
   connect(m_commandLine, &CommandLineWidget::escapeWithNothingToCancel, this, [this] {
     if (DrawingView* view = currentView())
@@ -137,7 +140,7 @@ void MainWindow::buildMenus()
   file->addAction(tr("&Open..."), QKeySequence::Open, this, [this] { openDrawing(); });
   file->addAction(tr("&Save"), QKeySequence::Save, this, [this] { saveDrawing(false); });
   file->addAction(tr("Save &As..."), QKeySequence::SaveAs, this, [this] { saveDrawing(true); });
-  file->addAction(tr("&Close"), QKeySequence::Close, this, [this] { runMacro("^C^CCloseDocument"); });
+  file->addAction(tr("&Close"), QKeySequence::Close, this, [this] { closeDrawing(m_tabs->currentIndex()); });
   file->addSeparator();
   m_recentMenu = file->addMenu(tr("&Recent Drawings"));
   connect(m_recentMenu, &QMenu::aboutToShow, this, &MainWindow::fillRecentMenu);
@@ -431,22 +434,86 @@ void MainWindow::tabChosen(int index)
 
 void MainWindow::closeTab(int index)
 {
+  closeDrawing(index);
+}
+
+void MainWindow::closeDrawing(int index)
+{
   DrawingView* view = qobject_cast<DrawingView*>(m_tabs->widget(index));
-  for (const Page& page : m_pages) {
+  for (Page& page : m_pages) {
     if (page.view != view)
       continue;
     if (m_input->isCommandActive()) {
       m_app.output().printLine("Finish or cancel the running command before closing a drawing.");
       return;
     }
+    if (!askToSave(page, true))
+      return;
     m_app.documents().makeCurrent(page.document);
     runMacro("CloseDocument");
     return;
   }
 }
 
-void MainWindow::commandFinished()
+MainWindow::Page* MainWindow::pageOf(HostDocumentImpl* document)
 {
+  for (Page& page : m_pages)
+    if (page.document == document)
+      return &page;
+  return nullptr;
+}
+
+bool MainWindow::isModified(const Page& page) const
+{
+  return page.document->undoJournal().undoCount() != page.savedAt;
+}
+
+bool MainWindow::askToSave(Page& page, bool mayCancel)
+{
+  if (!isModified(page))
+    return true;
+  const int answer = hostUiShowMessageBox(
+      this, OdString(tr("Save the changes to %1?").arg(page.document->documentName().qstring())), "Verdani",
+      (mayCancel ? 3 : 4) | 0x20);
+  if (answer == kHostIdNo)
+    return true;
+  if (answer != kHostIdYes)
+    return false;
+  return saveNow(page, page.document->filePath().isEmpty());
+}
+
+bool MainWindow::saveNow(Page& page, bool askName)
+{
+  OdString path = page.document->filePath();
+  if (askName && !hostUiGetSaveFileName(this, tr("Save Drawing As"), kDrawingFilter, "dxf",
+                                        path.isEmpty() ? page.document->documentName() : path, true, path))
+    return false;
+  HostDocumentImpl* current = m_app.documents().current();
+  m_app.documents().makeCurrent(page.document);
+  CRkPtr<IMemParam> parameters = CRkPtr<IMemParam>::attach(new_MemParam());
+  parameters->setValue("FileName", CRkVariant(path));
+  const QDateTime before = QDateTime::currentDateTime().addSecs(-1);
+  // By name, not typed: the host may be exiting, when typed input no
+  // longer runs.
+  m_app.commandLine().runCommandByName(askName ? "SaveAsDocument" : "SaveDocument", parameters.get());
+  m_app.documents().makeCurrent(current);
+  const QFileInfo written(page.document->filePath().qstring());
+  const bool saved = written.exists() && written.lastModified() >= before;
+  if (saved)
+    page.savedAt = page.document->undoJournal().undoCount();
+  return saved;
+}
+
+void MainWindow::commandFinished(const OdString& name)
+{
+  // A save of the current drawing that wrote its file marks it unchanged.
+  if (name.iCompare("SaveDocument") == 0 || name.iCompare("SaveAsDocument") == 0) {
+    if (Page* page = pageOf(m_app.documents().current())) {
+      const QFileInfo written(page->document->filePath().qstring());
+      if (written.exists() && written.lastModified() >= m_commandStarted)
+        page->savedAt = page->document->undoJournal().undoCount();
+    }
+  }
   // Once the command processor is done with it (its undo step closes after
   // the events that end it).
   if (m_app.exitRequested())
@@ -529,16 +596,37 @@ void MainWindow::toolPalettesMenuShown()
   m_toolPalettes->setChecked(state == 3);
 }
 
+void MainWindow::closeDiscardingChanges()
+{
+  m_discardChanges = true;
+  close();
+}
+
 void MainWindow::closeEvent(QCloseEvent* event)
 {
-  if (!m_app.exitRequested())
-    m_app.requestExit();
   if (m_input->isCommandActive()) {
-    // Waiting commands end as cancelled first; the window closes after.
-    m_input->endWaits();
+    // The waiting command is cancelled first (or, when the host exits
+    // already, ends as cancelled); the window closes after.
+    if (m_app.exitRequested())
+      m_input->endWaits();
+    else
+      runMacro("^C^C");
     event->ignore();
     QTimer::singleShot(0, this, &QWidget::close);
     return;
   }
+  // Changed drawings are offered a save; once the host exits (the Exit
+  // command), there is no way back, and only Yes or No are asked.
+  const bool mayCancel = !m_app.exitRequested();
+  for (Page& page : m_pages) {
+    if (m_discardChanges)
+      break;
+    if (!askToSave(page, mayCancel)) {
+      event->ignore();
+      return;
+    }
+  }
+  if (!m_app.exitRequested())
+    m_app.requestExit();
   event->accept();
 }

@@ -7,6 +7,7 @@
 #include "app/gui/DrawingView.h"
 #include "hostsdk/core/HostEdCompletion.h"
 
+#include <QDateTime>
 #include <QMainWindow>
 
 #include <memory>
@@ -49,6 +50,8 @@ public:
   void runMacro(const QString& macro);
   // Brings tabs, views and menus in line with the host's documents.
   void syncDocuments();
+  // Closes without offering to save changed drawings (a script's end).
+  void closeDiscardingChanges();
 
 protected:
   void closeEvent(QCloseEvent* event) override;
@@ -60,6 +63,9 @@ private:
     HostDocumentImpl* document;
     OdDbDatabase* database;
     DrawingView* view;
+    // The drawing's undo steps when it was read or last saved: with
+    // another number it has changes a close would lose.
+    std::size_t savedAt = 0;
   };
 
   void buildMenus();
@@ -69,7 +75,17 @@ private:
   void fillRecentMenu();
   void tabChosen(int index);
   void closeTab(int index);
-  void commandFinished();
+  void commandFinished(const OdString& name);
+  Page* pageOf(HostDocumentImpl* document);
+  bool isModified(const Page& page) const;
+  // Asks whether to save a changed drawing before it closes; false when
+  // the user would rather keep it open (or the save failed). With
+  // `mayCancel` false (the host exits already) only Yes and No are offered.
+  bool askToSave(Page& page, bool mayCancel);
+  // Saves through the host's commands, by name; true when the file was
+  // written.
+  bool saveNow(Page& page, bool askName);
+  void closeDrawing(int index);
   void toolPalettesMenuShown();
   void updateEditActions();
   void undoOrRedo(bool undo);
@@ -93,6 +109,8 @@ private:
   std::vector<Page> m_pages;
   bool m_syncing = false;
   bool m_hostRunning = false;
+  QDateTime m_commandStarted; // when the user's last command began
+  bool m_discardChanges = false;
   // The host's commands as completion entries; registered while the host runs.
   HostEdCompletion::Provider m_commandEntries;
 };

@@ -78,7 +78,7 @@ int main(int argc, char* argv[])
       } else {
         QObject::connect(&script, &EventScript::finished, &window, [&](int n) {
           failures = n;
-          window.close();
+          window.closeDiscardingChanges();
         });
         script.start();
       }
@@ -86,7 +86,7 @@ int main(int argc, char* argv[])
       script.setLines({QStringLiteral("wait 300"), "screenshot " + options.screenshot.qstring(), QStringLiteral("exit")});
       QObject::connect(&script, &EventScript::finished, &window, [&](int n) {
         failures = n;
-        window.close();
+        window.closeDiscardingChanges();
       });
       script.start();
     }

@@ -85,14 +85,14 @@ private:
   bool m_running = false;
 };
 
-// Runs `step` on the modal window that opens next.
-inline void onNextModal(std::function<void(QWidget*)> step)
+// Runs `step` on the modal window that opens within the next two seconds.
+inline void onNextModal(std::function<void(QWidget*)> step, int attempts = 200)
 {
-  QTimer::singleShot(0, [step] {
+  QTimer::singleShot(attempts == 200 ? 0 : 10, [step, attempts] {
     if (QWidget* modal = QApplication::activeModalWidget())
       step(modal);
-    else
-      onNextModal(step);
+    else if (attempts > 0)
+      onNextModal(step, attempts - 1);
   });
 }
 

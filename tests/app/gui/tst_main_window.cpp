@@ -12,7 +12,10 @@
 #include "sdk/dxf/OdDxf.h"
 #include "tests/app/gui/GuiTestSupport.h"
 
+#include <QFileDialog>
 #include <QLabel>
+#include <QMessageBox>
+#include <QPushButton>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPainter>
@@ -280,6 +283,59 @@ TEST_F(WindowTest, patternChoiceIsTheWindowsDialog)
 
   onNextModal([](QWidget* w) { static_cast<PatternChoiceDialog*>(w)->reject(); });
   EXPECT_FALSE(hostGetHatchPatterns(kHostHatchStandard, file, list, name)) << "cancelled";
+}
+
+TEST_F(WindowTest, closingAChangedDrawingOffersToSave)
+{
+  play({enter("LINE"), enter("0,0"), enter("9,9"), enter("")});
+  // Cancel keeps the window; No closes it without saving.
+  onNextModal([](QWidget* w) {
+    auto* box = qobject_cast<QMessageBox*>(w);
+    ASSERT_NE(box, nullptr);
+    EXPECT_TRUE(box->text().contains("Drawing1.dxf"));
+    box->button(QMessageBox::Cancel)->click();
+  });
+  m_window->close();
+  EXPECT_TRUE(m_window->isVisible());
+  EXPECT_FALSE(app().exitRequested());
+  onNextModal([](QWidget* w) { static_cast<QMessageBox*>(w)->button(QMessageBox::No)->click(); });
+  m_window->close();
+  EXPECT_FALSE(m_window->isVisible());
+  EXPECT_TRUE(app().exitRequested());
+}
+
+TEST_F(WindowTest, yesSavesANewDrawingUnderTheChosenNameBeforeItsTabCloses)
+{
+  play({enter("NewDocument"), enter("LINE"), enter("0,0"), enter("9,9"), enter("")});
+  ASSERT_EQ(m_window->tabs()->count(), 2);
+  const QString file = m_home.filePath("kept.dxf");
+  onNextModal([file](QWidget* w) {
+    onNextModal([file](QWidget* dialog) {
+      static_cast<QFileDialog*>(dialog)->selectFile(file);
+      QMetaObject::invokeMethod(dialog, "accept");
+    });
+    static_cast<QMessageBox*>(w)->button(QMessageBox::Yes)->click();
+  });
+  emit m_window->tabs()->tabCloseRequested(1);
+  ASSERT_TRUE(waitFor([this] { return m_window->tabs()->count() == 1; }));
+  ASSERT_TRUE(QFileInfo::exists(file));
+  OdDbDatabasePtr kept = odDxfReadFile(OdString(file));
+  EXPECT_EQ(modelSpace(kept)->entityIds().size(), 1u);
+}
+
+TEST_F(WindowTest, unchangedAndSavedDrawingsCloseWithoutAQuestion)
+{
+  const QString file = m_home.filePath("saved.dxf");
+  play({enter("LINE"), enter("0,0"), enter("9,9"), enter(""), enter("SaveAsDocument"), enter(file)});
+  ASSERT_TRUE(QFileInfo::exists(file));
+  bool asked = false;
+  onNextModal([&](QWidget* w) {
+    asked = true;
+    static_cast<QMessageBox*>(w)->button(QMessageBox::Cancel)->click();
+  });
+  m_window->close();
+  EXPECT_FALSE(asked);
+  EXPECT_FALSE(m_window->isVisible());
 }
 
 TEST_F(WindowTest, toolPalettesEntryFollowsTheCommandsState)

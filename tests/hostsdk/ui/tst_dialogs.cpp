@@ -20,16 +20,14 @@
 
 namespace {
 
-// Runs `step` on the modal window that opens next.
-void onNextModal(std::function<void(QWidget*)> step)
+// Runs `step` on the modal window that opens within the next two seconds.
+void onNextModal(std::function<void(QWidget*)> step, int attempts = 200)
 {
-  QTimer::singleShot(0, [step] {
-    QWidget* modal = QApplication::activeModalWidget();
-    if (!modal) {
-      onNextModal(step);
-      return;
-    }
-    step(modal);
+  QTimer::singleShot(attempts == 200 ? 0 : 10, [step, attempts] {
+    if (QWidget* modal = QApplication::activeModalWidget())
+      step(modal);
+    else if (attempts > 0)
+      onNextModal(step, attempts - 1);
   });
 }
 
