@@ -8,6 +8,8 @@
 #include "app/core/HostDocumentManager.h"
 #include "app/core/HostDrawCommands.h"
 #include "app/core/HostEditCommands.h"
+#include "app/core/HostHatchCommands.h"
+#include "app/core/HostInsertCommands.h"
 #include "app/core/HostOutput.h"
 #include "app/core/HostToolPalettes.h"
 
@@ -201,6 +203,8 @@ void registerAll()
   HostToolPalettes::registerCommands();
   HostDrawCommands::registerCommands();
   HostEditCommands::registerCommands();
+  HostInsertCommands::registerCommands();
+  HostHatchCommands::registerCommands();
 }
 
 } // namespace HostBuiltinCommands

@@ -76,12 +76,6 @@ bool HostCommandLine::inputWaiting() const
   return m_prompt.kind != HostPrompt::kNone && (m_picked || m_queue.hasInput(m_prompt.allowsSpaces()));
 }
 
-void HostCommandLine::beginUndoSteps(const OdString& name)
-{
-  for (HostDocumentImpl* document : m_app.documents().documents())
-    document->undoJournal().beginStep(name);
-}
-
 void HostCommandLine::endUndoSteps()
 {
   for (HostDocumentImpl* document : m_app.documents().documents())
@@ -137,8 +131,12 @@ HostCommandLine::Result HostCommandLine::runCommand(const HostCommand& command, 
   const OdString name = command.globalName;
   HostEditorEventsImpl& events = m_app.editorEvents();
   const bool outermost = m_running.empty();
-  if (outermost)
-    beginUndoSteps(name);
+  for (HostDocumentImpl* document : m_app.documents().documents()) {
+    if (outermost)
+      document->undoJournal().beginStep(name);
+    else
+      document->undoJournal().innerCommand(name);
+  }
   m_running.push_back(Frame{name, false});
   events.commandWillStart(name);
 

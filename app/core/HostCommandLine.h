@@ -101,7 +101,6 @@ private:
   };
   void markCancelled();
   void notifyInput();
-  void beginUndoSteps(const OdString& name);
   void endUndoSteps();
 
   HostApp& m_app;

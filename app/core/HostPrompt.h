@@ -20,7 +20,6 @@ struct HostPrompt
     kDistance, // a number, or a point measured from the base point
     kReal,
     kInteger,
-    kKeyword,  // one of `keywords`
     kEntity,   // an object of the drawing: its handle typed, or picked
     kEntityOrPoint // an object, or a point that starts a polygon
   };

@@ -178,36 +178,36 @@ HostPrompts::Status HostPrompts::getInteger(const HostPromptOptions& options, in
   });
 }
 
-HostPrompts::Status HostPrompts::getKeyword(const HostPromptOptions& options, OdString& value)
-{
-  const Status status = ask(HostPrompt::kKeyword, options, value, [&](const HostInput& in) -> Verdict {
-    const OdString k = in.kind == HostInput::kText ? matchKeyword(in.text, options.keywords) : OdString();
-    if (k.isEmpty())
-      return {kOk, "Invalid option keyword."};
-    value = k;
-    return {};
-  });
-  if (status == kKeyword)
-    value = m_keyword;
-  return status == kKeyword ? kOk : status;
-}
-
-HostPrompts::Status HostPrompts::getText(const HostPromptOptions& options, OdString& value)
+HostPrompts::Status HostPrompts::readText(HostPrompt::Kind kind, const HostPromptOptions& options, OdString& value)
 {
   HostPrompt prompt;
-  prompt.kind = HostPrompt::kText;
+  prompt.kind = kind;
   prompt.message = composePrompt(options.message, {}, options.useDefault ? value : OdString());
   const HostInput input = m_app.commandLine().read(prompt);
   if (input.kind == HostInput::kCancel)
     return kCancel;
+  OdString text = input.text;
+  if (kind == HostPrompt::kString && text.getLength() >= 2 && text.getAt(0) == u'"' &&
+      text.getAt(text.getLength() - 1) == u'"')
+    text = text.mid(1, text.getLength() - 2);
   if (input.text.isEmpty()) {
     if (options.useDefault)
       return kOk;
     if (options.allowNone)
       return kNone;
   }
-  value = input.text;
+  value = text;
   return kOk;
+}
+
+HostPrompts::Status HostPrompts::getText(const HostPromptOptions& options, OdString& value)
+{
+  return readText(HostPrompt::kText, options, value);
+}
+
+HostPrompts::Status HostPrompts::getWord(const HostPromptOptions& options, OdString& value)
+{
+  return readText(HostPrompt::kString, options, value);
 }
 
 OdDbObjectId HostPrompts::entityByHandle(const OdString& text, OdString& error) const

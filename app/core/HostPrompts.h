@@ -34,7 +34,7 @@ public:
   {
     kOk,      // a value, or the default taken with Enter
     kNone,    // Enter where that is allowed without a default
-    kKeyword, // keyword() tells which
+    kKeyword, // one of the options; keyword() tells which
     kCancel,  // "^C" or the end of input; the command should end
     kPoint    // getEntityOrPoint: a point instead of an object
   };
@@ -48,9 +48,11 @@ public:
   Status getAngle(const HostPromptOptions& options, double& value);
   Status getReal(const HostPromptOptions& options, double& value);
   Status getInteger(const HostPromptOptions& options, int& value);
-  Status getKeyword(const HostPromptOptions& options, OdString& value);
   // A line of text, blanks included.
   Status getText(const HostPromptOptions& options, OdString& value);
+  // A word: a blank ends it, except inside double quotes (which are taken
+  // off), as names are typed.
+  Status getWord(const HostPromptOptions& options, OdString& value);
   // An entity of the current drawing's model or paper space: its handle
   // typed in hex, or picked in a desktop host.
   Status getEntity(const HostPromptOptions& options, OdDbObjectId& value);
@@ -69,6 +71,7 @@ private:
     OdString retry; // non-empty: print it and ask again
   };
   using Interpreter = std::function<Verdict(const HostInput& input)>;
+  Status readText(HostPrompt::Kind kind, const HostPromptOptions& options, OdString& value);
   Status ask(HostPrompt::Kind kind, const HostPromptOptions& options, const OdString& defaultText,
              const Interpreter& interpret);
   OdGePoint3d lastPoint() const;

@@ -23,6 +23,12 @@ void HostUndo::beginStep(const OdString& name)
   m_open.name = name;
 }
 
+void HostUndo::innerCommand(const OdString& name)
+{
+  if (m_inCommand && m_open.name.left(2) == "__")
+    m_open.name = name;
+}
+
 void HostUndo::endStep()
 {
   m_inCommand = false;
@@ -32,13 +38,6 @@ void HostUndo::endStep()
   }
   m_undo.push_back(std::move(m_open));
   m_open = Step();
-  m_redo.clear();
-}
-
-void HostUndo::clear()
-{
-  m_open = Step();
-  m_undo.clear();
   m_redo.clear();
 }
 

@@ -28,6 +28,10 @@ public:
   // The command is over: its step joins the undo list if it changed
   // anything, and then nothing can be redone any more.
   void endStep();
+  // A command runs inside the one that opened the step. A step opened by a
+  // private command ("__executetool", which tools type and users never
+  // see) takes the name of the command it runs ("InsertBlock").
+  void innerCommand(const OdString& name);
 
   bool canUndo() const { return !m_undo.empty() || !m_open.empty(); }
   bool canRedo() const { return !m_redo.empty(); }
@@ -39,9 +43,6 @@ public:
   // there is nothing to undo.
   bool undo();
   bool redo();
-  // Forgets everything (a drawing read anew).
-  void clear();
-  std::size_t undoCount() const { return m_undo.size(); }
 
   void objectAppended(const OdDbDatabase* database, const OdDbObject* object) override;
   void objectOpenedForModify(const OdDbDatabase* database, const OdDbObject* object) override;

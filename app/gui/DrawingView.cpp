@@ -35,6 +35,7 @@ public:
   void objectOpenedForModify(const OdDbDatabase* db, const OdDbObject* object) override { changed(db, object); }
   void headerSysVarChanged(const OdDbDatabase*, const OdString& name) override
   {
+    ++m_view.m_changes;
     // The global linetype scale changes how every dashed line looks.
     if (name.iCompare("LTSCALE") == 0)
       m_view.m_drawingChanged = true;
@@ -46,6 +47,7 @@ private:
   // change how anything looks, and the scene is made anew.
   void changed(const OdDbDatabase* db, const OdDbObject* object)
   {
+    ++m_view.m_changes;
     m_view.m_drawingChanged = true;
     if (m_view.m_rebuildScene || !object)
       return;
@@ -96,6 +98,7 @@ void DrawingView::setDatabase(OdDbDatabase* db)
   m_selection.clear();
   m_scene.build(db);
   m_drawingChanged = m_rebuildScene = false;
+  m_changes = 0;
   if (db)
     db->addReactor(m_listener.get());
   zoomExtents();

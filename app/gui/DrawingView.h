@@ -33,6 +33,9 @@ public:
   // Follows changes of the drawing since the last call; true when the
   // picture changed.
   bool syncWithDrawing();
+  // How many changes the drawing has told of since it was shown: it grows
+  // with every change, undone ones too.
+  std::uint64_t changeCount() const { return m_changes; }
   const DrawingScene& scene() const { return m_scene; }
 
   ViewTransform& view() { return m_view; }
@@ -112,6 +115,7 @@ private:
   std::unique_ptr<DrawingListener> m_listener;
   bool m_drawingChanged = false; // since the last sync
   bool m_rebuildScene = false;   // a change that entities alone do not tell
+  std::uint64_t m_changes = 0;
   ViewTransform m_view;
   SceneRenderer::Options m_options;
   QImage m_frame;

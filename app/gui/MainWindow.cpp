@@ -465,7 +465,7 @@ MainWindow::Page* MainWindow::pageOf(HostDocumentImpl* document)
 
 bool MainWindow::isModified(const Page& page) const
 {
-  return page.document->undoJournal().undoCount() != page.savedAt;
+  return page.view->changeCount() != page.savedAt;
 }
 
 bool MainWindow::askToSave(Page& page, bool mayCancel)
@@ -500,7 +500,7 @@ bool MainWindow::saveNow(Page& page, bool askName)
   const QFileInfo written(page.document->filePath().qstring());
   const bool saved = written.exists() && written.lastModified() >= before;
   if (saved)
-    page.savedAt = page.document->undoJournal().undoCount();
+    page.savedAt = page.view->changeCount();
   return saved;
 }
 
@@ -511,7 +511,7 @@ void MainWindow::commandFinished(const OdString& name)
     if (Page* page = pageOf(m_app.documents().current())) {
       const QFileInfo written(page->document->filePath().qstring());
       if (written.exists() && written.lastModified() >= m_commandStarted)
-        page->savedAt = page->document->undoJournal().undoCount();
+        page->savedAt = page->view->changeCount();
     }
   }
   // Once the command processor is done with it (its undo step closes after

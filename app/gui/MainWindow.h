@@ -63,9 +63,9 @@ private:
     HostDocumentImpl* document;
     OdDbDatabase* database;
     DrawingView* view;
-    // The drawing's undo steps when it was read or last saved: with
-    // another number it has changes a close would lose.
-    std::size_t savedAt = 0;
+    // The view's count of the drawing's changes when it was read or last
+    // saved: with another number it has changes a close would lose.
+    std::uint64_t savedAt = 0;
   };
 
   void buildMenus();

@@ -68,6 +68,7 @@ void odDbInitClasses()
   OdDbDimension::rxInit();
   OdDbHatch::rxInit();
   OdDbRasterImage::rxInit();
+  OdDbRasterImageDefReactor::rxInit();
   OdResBuf::rxInit();
 }
 

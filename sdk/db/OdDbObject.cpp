@@ -71,6 +71,47 @@ OdDbObjectId OdDbObject::extensionDictionary() const
   return OdDbObjectId();
 }
 
+std::vector<OdDbObjectId> OdDbObject::getPersistentReactors() const
+{
+  std::vector<OdDbObjectId> out;
+  OdDbDatabase* db = database();
+  bool in = false;
+  for (const OdDbDxfPair& p : m_pairs) {
+    if (p.code != 102 && !in)
+      break;
+    if (p.code == 102) {
+      in = p.value == "{ACAD_REACTORS";
+      continue;
+    }
+    if (p.code == 330 && db)
+      out.push_back(db->getOdDbObjectId(OdDbHandle::fromText(p.value)));
+  }
+  return out;
+}
+
+// The group leads the pairs, as the format has it: before the extension
+// dictionary's group and the owner.
+void OdDbObject::addPersistentReactor(OdDbObjectId reactorId)
+{
+  if (reactorId.isNull())
+    return;
+  for (const OdDbObjectId& id : getPersistentReactors())
+    if (id == reactorId)
+      return;
+  assertWriteEnabled();
+  const OdDbDxfPair entry{330, storeText(reactorId.getHandle().text())};
+  for (std::size_t i = 0; i < m_pairs.size() && m_pairs[i].code == 102; ++i) {
+    if (m_pairs[i].value == "{ACAD_REACTORS") {
+      std::size_t end = i + 1;
+      while (end < m_pairs.size() && m_pairs[end].code != 102)
+        ++end;
+      m_pairs.insert(m_pairs.begin() + long(end), entry);
+      return;
+    }
+  }
+  m_pairs.insert(m_pairs.begin(), {OdDbDxfPair{102, "{ACAD_REACTORS"}, entry, OdDbDxfPair{102, "}"}});
+}
+
 void OdDbObject::initData(const char* type, std::initializer_list<OdDbDxfPair> pairs)
 {
   m_type = type;

@@ -8,6 +8,7 @@
 
 #include <initializer_list>
 #include <string>
+#include <vector>
 
 // Every object keeps its data as the DXF group-code pairs it was read with
 // (or was made with), after its type, handle and owner. The typed
@@ -54,6 +55,10 @@ public:
   // publish (proxies), kept as they were read.
   bool isAProxy() const;
   OdDbObjectId extensionDictionary() const;
+  // Persistent reactors: objects told of this one's changes, kept in its
+  // {ACAD_REACTORS group (an image definition lists its images' reactors).
+  void addPersistentReactor(OdDbObjectId reactorId);
+  std::vector<OdDbObjectId> getPersistentReactors() const;
   // The DXF type name ("LINE", "LAYER", "DICTIONARY").
   OdString dxfName() const { return OdDxf::toOdString(m_type); }
   const std::string& dxfType() const { return m_type; }

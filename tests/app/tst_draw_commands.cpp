@@ -233,6 +233,11 @@ TEST_F(DrawCommands, desktopClicks_answerPointPrompts)
   // A desktop host's wait: it looks at what is asked and clicks.
   std::vector<HostPrompt> asked;
   std::vector<OdGePoint3d> clicks{{1, 1, 0}, {4, 5, 0}};
+  int notices = 0;
+  app().commandLine().setInputNotifier([&]() {
+    ++notices;
+    EXPECT_TRUE(app().commandLine().inputWaiting());
+  });
   app().commandLine().setInputWaiter([&]() {
     const HostPrompt& p = app().commandLine().activePrompt();
     asked.push_back(p);
@@ -246,6 +251,8 @@ TEST_F(DrawCommands, desktopClicks_answerPointPrompts)
   });
   app().typeLine("LINE");
   app().commandLine().setInputWaiter(nullptr);
+  app().commandLine().setInputNotifier(nullptr);
+  EXPECT_EQ(notices, 3) << "two clicks and an Enter";
   ASSERT_EQ(entities().size(), 1u);
   EXPECT_EQ(OdDbLine::cast(entities()[0])->endPoint(), OdGePoint3d(4, 5, 0));
   ASSERT_EQ(asked.size(), 3u);

@@ -203,6 +203,14 @@ TEST_F(Undo, editMenuApi_answersAndFiresUndoEvents)
   app().editorEvents().removeReactor(&undoEvents);
 }
 
+TEST_F(Undo, stepOfAPrivateCommand_isNamedAfterTheCommandItRuns)
+{
+  addCommand("__tsttool", [](IMemParam*) { HostApp::instance().commandLine().runCommandByName("CIRCLE"); });
+  app().typeLine("__tsttool 0,0 1");
+  app().typeLine("U");
+  EXPECT_NE(m_output.find("Undone: CIRCLE"), std::string::npos) << m_output;
+}
+
 TEST_F(Undo, eachDocument_hasItsOwnSteps)
 {
   HostDocumentImpl* first = doc();
