@@ -60,7 +60,6 @@ public:
   void setInputWanted(const InputWanted& wanted);
   bool isPointWanted() const { return m_wanted.point; }
   void setSnapEnabled(bool on) { m_snapEnabled = on; }
-  bool isSnapEnabled() const { return m_snapEnabled; }
   // Where a click at `screen` lands: on a snap point within the aperture,
   // else under the cursor.
   QPointF pointAt(const QPointF& screen, std::optional<SnapPoint>* snapped = nullptr) const;
@@ -70,7 +69,6 @@ public:
   void clearSelection() { setSelection({}); }
 
   void setAntialiased(bool on);
-  bool isAntialiased() const { return m_options.antialiased; }
   // Cancels what the view itself waits for (a zoom window); false when
   // there was nothing.
   bool cancelViewAction();

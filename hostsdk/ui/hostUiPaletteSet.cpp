@@ -43,7 +43,6 @@ bool hostUiPaletteSet::Create(const OdString& title, unsigned style, const QRect
 
 void hostUiPaletteSet::EnableDocking(unsigned alignment)
 {
-  m_alignment = alignment & kAlignAny;
   Qt::DockWidgetAreas areas = Qt::NoDockWidgetArea;
   if (alignment & kAlignLeft)
     areas |= Qt::LeftDockWidgetArea;

@@ -35,7 +35,6 @@ public:
 
   // The sides it may dock on (kAlign... bits); none leaves it floating only.
   void EnableDocking(unsigned alignment);
-  unsigned DockingAlignment() const { return m_alignment; }
 
   void ShowPane(bool show);
   bool IsPaneVisible() const;
@@ -66,6 +65,5 @@ protected:
 
 private:
   bool m_created = false;
-  unsigned m_alignment = 0;
   QPointer<QWidget> m_owner;
 };
