@@ -127,6 +127,7 @@ void HostApp::start(const HostStartOptions& options)
     onConfigChange(folder, name, value);
   });
   m_running = true;
+  hostSetContext(m_services.get(), this);
 
   if (!options.settings.empty()) {
     HostConfig::Batch batch(*m_config);
@@ -176,6 +177,7 @@ void HostApp::shutdown()
   m_completion->clear();
   m_appProp->clear();
   m_config.reset();
+  hostSetContext(nullptr, nullptr);
   if (m_ownMessageBoxes) {
     hostSetMessageBoxHandler(nullptr);
     m_ownMessageBoxes = false;
