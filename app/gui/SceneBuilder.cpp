@@ -261,6 +261,11 @@ void SceneBuilder::emitCurve(const std::vector<QPointF>& world, bool closed, con
 void SceneBuilder::emitArc(const QPointF& center, const QPointF& u, const QPointF& v, double t0, double t1,
                            const SceneLook& look, const Context& c)
 {
+  addSnap(center, SnapKind::Center);
+  if (t1 - t0 < SceneGeometry::kTwoPi - 1e-9) {
+    addSnap(center + u * std::cos(t0) + v * std::sin(t0), SnapKind::End);
+    addSnap(center + u * std::cos(t1) + v * std::sin(t1), SnapKind::End);
+  }
   if (look.pattern && !look.pattern->empty()) {
     std::vector<QPointF> pts;
     const int n = std::max(8, int(std::ceil((t1 - t0) / SceneGeometry::kTwoPi * 96)));
@@ -368,11 +373,6 @@ void SceneBuilder::circleOrArc(const OdDbEntity& e, const SceneLook& look, const
   const QPointF u = plane.apply2(center.x + r, center.y, center.z) - cw;
   const QPointF v = plane.apply2(center.x, center.y + r, center.z) - cw;
   emitArc(cw, u, v, a0, a1, look, c);
-  addSnap(cw, SnapKind::Center);
-  if (isArc) {
-    addSnap(cw + u * std::cos(a0) + v * std::sin(a0), SnapKind::End);
-    addSnap(cw + u * std::cos(a1) + v * std::sin(a1), SnapKind::End);
-  }
 }
 
 void SceneBuilder::ellipse(const OdDbEntity& e, const SceneLook& look, const Context& c)
@@ -393,11 +393,6 @@ void SceneBuilder::ellipse(const OdDbEntity& e, const SceneLook& look, const Con
   while (t1 <= t0)
     t1 += SceneGeometry::kTwoPi;
   emitArc(cw, u, v, t0, t1, look, c);
-  addSnap(cw, SnapKind::Center);
-  if (t1 - t0 < SceneGeometry::kTwoPi - 1e-9) {
-    addSnap(cw + u * std::cos(t0) + v * std::sin(t0), SnapKind::End);
-    addSnap(cw + u * std::cos(t1) + v * std::sin(t1), SnapKind::End);
-  }
 }
 
 void SceneBuilder::lightPolyline(const OdDbEntity& e, const SceneLook& look, const Context& c)

@@ -58,6 +58,8 @@ private:
   std::uint16_t style(const SceneLook& look);
   void emitCurve(const std::vector<QPointF>& world, bool closed, const SceneLook& look, const Context& c,
                  std::uint8_t flags = 0);
+  // An elliptic arc from t0 to t1 with its centre and, when it is not
+  // whole, its end points as snap points.
   void emitArc(const QPointF& center, const QPointF& u, const QPointF& v, double t0, double t1,
                const SceneLook& look, const Context& c);
   void emitSegments(const std::vector<QPointF>& pairs, std::uint16_t style, std::uint8_t flags);
