@@ -66,10 +66,7 @@ OdDbObjectId OdDbBlockReference::appendAttribute(OdDbAttribute* attribute)
 
 OdDbObjectIteratorPtr OdDbBlockReference::attributeIterator() const
 {
-  auto it = OdRxObjectImpl<OdDbObjectIterator>::createObject();
-  it->m_ids = m_attributes.ids();
-  it->start();
-  return it;
+  return OdDbIdIterator::create<OdDbObjectIterator>(m_attributes.ids());
 }
 
 OdResult OdDbBlockReference::erase(bool erasing)

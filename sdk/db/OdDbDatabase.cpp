@@ -313,32 +313,22 @@ void OdDbDatabase::setCLAYER(OdDbObjectId id) { setHeaderString("$CLAYER", 8, na
 
 OdCmColor OdDbDatabase::getCECOLOR() const
 {
-  OdCmColor c;
-  const HeaderVar* v = headerVar("$CECOLOR");
-  c.setColorIndex(std::int16_t(getHeaderInt("$CECOLOR", 256)));
-  if (v)
+  const OdDbDxfPair* rgb = nullptr;
+  const OdDbDxfPair* names = nullptr;
+  if (const HeaderVar* v = headerVar("$CECOLOR"))
     for (const OdDbDxfPair& p : v->pairs) {
-      if (p.code == 420) {
-        const auto rgb = std::uint32_t(OdDxf::toInt(p.value));
-        c.setRGB(std::uint8_t(rgb >> 16), std::uint8_t(rgb >> 8), std::uint8_t(rgb));
-      } else if (p.code == 430) {
-        c.setNamesFromDxf(OdDxf::toOdString(p.value));
-      }
+      if (p.code == 420 && !rgb)
+        rgb = &p;
+      else if (p.code == 430 && !names)
+        names = &p;
     }
-  return c;
+  return OdDxf::toColor(std::int16_t(getHeaderInt("$CECOLOR", 256)), rgb, names);
 }
 
 void OdDbDatabase::setCECOLOR(const OdCmColor& c)
 {
-  const std::string aci = OdDxf::fromInt(c.isByLayer() ? 256 : c.colorIndex());
-  const std::string rgb = OdDxf::fromInt(c.rgb());
-  const std::string name = OdDxf::fromOdString(c.colorNameForDxf());
-  OdDbDxfPairArray pairs{{62, aci}};
-  if (c.isByColor()) {
-    pairs.push_back({420, rgb});
-    if (!name.empty())
-      pairs.push_back({430, name});
-  }
+  OdDbDxfPairArray pairs{{62, m_arena->store(OdDxf::fromInt(c.isByLayer() ? 256 : c.colorIndex()))}};
+  OdDxf::appendTrueColor(c, pairs, *m_arena);
   setHeaderVar("$CECOLOR", pairs);
 }
 

@@ -169,3 +169,25 @@ std::string OdDxf::decodeUnicodeEscapes(std::string_view text)
   }
   return out;
 }
+
+OdCmColor OdDxf::toColor(std::int16_t index, const OdDbDxfPair* rgb, const OdDbDxfPair* names)
+{
+  OdCmColor c;
+  c.setColorIndex(index);
+  if (rgb) {
+    const auto v = std::uint32_t(toInt(rgb->value));
+    c.setRGB(std::uint8_t(v >> 16), std::uint8_t(v >> 8), std::uint8_t(v));
+    if (names)
+      c.setNamesFromDxf(toOdString(names->value));
+  }
+  return c;
+}
+
+void OdDxf::appendTrueColor(const OdCmColor& color, OdDbDxfPairArray& out, OdDbStringArena& arena)
+{
+  if (!color.isByColor())
+    return;
+  out.push_back({420, arena.store(fromInt(color.rgb()))});
+  if (!color.colorName().isEmpty())
+    out.push_back({430, arena.store(fromOdString(color.colorNameForDxf()))});
+}

@@ -1,6 +1,7 @@
 // Group-code pairs, the storage of every drawing object, and their text arena.
 #pragma once
 
+#include "sdk/db/OdCmColor.h"
 #include "sdk/kernel/OdString.h"
 
 #include <cstdint>
@@ -57,4 +58,12 @@ OdString toOdString(std::string_view utf8);
 std::string fromOdString(const OdString& text);
 // Replaces \U+XXXX escapes by the characters they stand for.
 std::string decodeUnicodeEscapes(std::string_view text);
+
+// Colours are kept as code 62 (the index), 420 (the RGB of a true colour)
+// and 430 ("BOOK$NAME" of a named true colour). The colour of an index and
+// the pairs 420 and 430 that go with it (null when absent).
+OdCmColor toColor(std::int16_t index, const OdDbDxfPair* rgb, const OdDbDxfPair* names);
+// Appends 420, and 430 for a named colour, when the colour is a true colour;
+// their texts are stored in `arena`.
+void appendTrueColor(const OdCmColor& color, OdDbDxfPairArray& out, OdDbStringArena& arena);
 } // namespace OdDxf

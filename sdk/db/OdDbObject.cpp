@@ -69,6 +69,23 @@ void OdDbObject::initData(const char* type, std::initializer_list<OdDbDxfPair> p
   m_pairs.assign(pairs.begin(), pairs.end());
 }
 
+OdCmColor OdDbObject::colorOf(const char* sub, std::int16_t index) const
+{
+  const int rgb = findPair(sub, 420), names = findPair(sub, 430);
+  return OdDxf::toColor(index, rgb < 0 ? nullptr : &m_pairs[std::size_t(rgb)],
+                        names < 0 ? nullptr : &m_pairs[std::size_t(names)]);
+}
+
+void OdDbObject::setColorCodes(const char* sub, long long index, const OdCmColor& color)
+{
+  removeCode(sub, 420);
+  removeCode(sub, 430);
+  setInt(sub, 62, index);
+  OdDbDxfPairArray trueColor;
+  OdDxf::appendTrueColor(color, trueColor, *arena());
+  m_pairs.insert(m_pairs.begin() + findPair(sub, 62) + 1, trueColor.begin(), trueColor.end());
+}
+
 void OdDbObject::setDxfData(std::string type, OdDbDxfPairArray pairs, const OdDbStringArenaPtr& arena)
 {
   m_type = std::move(type);

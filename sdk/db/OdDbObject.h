@@ -100,6 +100,12 @@ protected:
   OdDbObject();
   // Sets type and the pairs a new object starts with (literal texts).
   void initData(const char* type, std::initializer_list<OdDbDxfPair> pairs);
+  // The colour of codes 62, 420 and 430 in the section `sub`; `index` is
+  // what code 62 stands for, read by the caller.
+  OdCmColor colorOf(const char* sub, std::int16_t index) const;
+  // Sets code 62 to `index` and puts 420 and 430 right after it for a true
+  // colour, or removes them for any other colour.
+  void setColorCodes(const char* sub, long long index, const OdCmColor& color);
   int xdataStart() const;
 
   OdDbStub* m_stub = nullptr; // not owned: the stub owns this object

@@ -125,10 +125,7 @@ OdDb2dPolyline::OdDb2dPolyline()
 
 OdDbObjectIteratorPtr OdDb2dPolyline::vertexIterator() const
 {
-  auto it = OdRxObjectImpl<OdDbObjectIterator>::createObject();
-  it->m_ids = m_vertices.ids();
-  it->start();
-  return it;
+  return OdDbIdIterator::create<OdDbObjectIterator>(m_vertices.ids());
 }
 
 OdResult OdDb2dPolyline::erase(bool erasing)
