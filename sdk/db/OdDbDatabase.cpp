@@ -51,7 +51,7 @@ OdDbStub* OdDbDatabase::newStub(const OdDbHandle& handle)
   OdDbStub* s = &m_stubs.back();
   s->handle = handle;
   s->database = this;
-  m_byHandle.emplace(handle.value(), s);
+  m_byHandle.insert(s);
   if (handle.value() >= m_handseed.value() && handle.value() < kTemporaryHandles)
     m_handseed = handle.value() + 1;
   return s;
@@ -60,11 +60,11 @@ OdDbStub* OdDbDatabase::newStub(const OdDbHandle& handle)
 void OdDbDatabase::reassignHandle(OdDbObjectId id, const OdDbHandle& handle)
 {
   OdDbStub* s = id.stub();
-  if (!s || m_byHandle.count(handle.value()))
+  if (!s || m_byHandle.find(handle.value()))
     throw OdError(eInvalidInput, OdString("handle in use: ") + handle.ascii());
   m_byHandle.erase(s->handle.value());
   s->handle = handle;
-  m_byHandle.emplace(handle.value(), s);
+  m_byHandle.insert(s);
   if (handle.value() >= m_handseed.value() && handle.value() < kTemporaryHandles)
     m_handseed = handle.value() + 1;
 }
@@ -73,9 +73,8 @@ OdDbObjectId OdDbDatabase::getOdDbObjectId(const OdDbHandle& handle, bool create
 {
   if (handle.isNull())
     return OdDbObjectId();
-  auto it = m_byHandle.find(handle.value());
-  if (it != m_byHandle.end())
-    return OdDbObjectId(it->second);
+  if (OdDbStub* s = m_byHandle.find(handle.value()))
+    return OdDbObjectId(s);
   return createIfNotFound ? OdDbObjectId(newStub(handle)) : OdDbObjectId();
 }
 
@@ -87,11 +86,10 @@ OdDbObjectId OdDbDatabase::addOdDbObject(OdDbObject* object, OdDbObjectId ownerI
     throw OdError(eInvalidInput, "the object is already in a database");
   OdDbStub* stub = nullptr;
   if (!handle.isNull()) {
-    auto it = m_byHandle.find(handle.value());
-    if (it != m_byHandle.end()) {
-      if (it->second->object)
+    stub = m_byHandle.find(handle.value());
+    if (stub) {
+      if (stub->object)
         throw OdError(eInvalidInput, OdString("handle in use: ") + handle.ascii());
-      stub = it->second;
     } else {
       stub = newStub(handle);
     }

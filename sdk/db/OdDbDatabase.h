@@ -2,6 +2,7 @@
 #pragma once
 
 #include "sdk/db/OdCmColor.h"
+#include "sdk/db/OdDbHandleMap.h"
 #include "sdk/db/OdDbObject.h"
 
 #include <deque>
@@ -46,6 +47,8 @@ public:
   }
   // Every id with an object, in handle order.
   std::vector<OdDbObjectId> allObjectIds() const;
+  // Makes room for about `count` objects, for readers that can tell.
+  void reserveObjects(std::size_t count) { m_byHandle.reserve(count); }
 
   // --- tables and well-known objects --------------------------------------
   OdDbObjectId getBlockTableId() const { return tableId("BLOCK_RECORD"); }
@@ -193,7 +196,7 @@ private:
   void addLayouts();
 
   std::deque<OdDbStub> m_stubs;
-  std::unordered_map<std::uint64_t, OdDbStub*> m_byHandle;
+  OdDbHandleMap m_byHandle;
   OdDbHandle m_handseed = 1;
   std::unordered_map<std::string, OdDbObjectId> m_tables;
   OdDbObjectId m_rootDictionary;

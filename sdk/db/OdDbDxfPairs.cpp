@@ -1,29 +1,8 @@
-// Pair text storage and the conversions between pair texts and values.
+// The conversions between pair texts and values.
 #include "sdk/db/OdDbDxfPairs.h"
 
 #include <charconv>
 #include <cstring>
-
-std::string_view OdDbStringArena::store(std::string_view text)
-{
-  if (text.empty())
-    return std::string_view();
-  if (text.size() > 4096) {
-    auto big = std::make_shared<std::string>(text);
-    m_buffers.push_back(big);
-    return *big;
-  }
-  if (m_chunks.empty() || m_used + text.size() > m_chunkSize) {
-    // Chunks grow with use, so that small arenas (one object) stay small.
-    m_chunkSize = m_chunks.empty() ? 256 : std::min<std::size_t>(m_chunkSize * 2, 65536);
-    m_chunks.emplace_back(new char[m_chunkSize]);
-    m_used = 0;
-  }
-  char* p = m_chunks.back().get() + m_used;
-  std::memcpy(p, text.data(), text.size());
-  m_used += text.size();
-  return std::string_view(p, text.size());
-}
 
 OdDxf::ValueType OdDxf::codeType(int code)
 {

@@ -66,7 +66,7 @@ OdDbObjectId OdDbObject::extensionDictionary() const
 void OdDbObject::initData(const char* type, std::initializer_list<OdDbDxfPair> pairs)
 {
   m_type = type;
-  m_pairs.assign(pairs.begin(), pairs.end());
+  m_pairs = OdDbDxfPairArray(pairs);
 }
 
 OdCmColor OdDbObject::colorOf(const char* sub, std::int16_t index) const
@@ -138,7 +138,7 @@ int OdDbObject::findPair(const char* sub, int code, int from) const
 std::string_view OdDbObject::rawValue(const char* sub, int code, std::string_view fallback) const
 {
   const int i = findPair(sub, code);
-  return i < 0 ? fallback : m_pairs[std::size_t(i)].value;
+  return i < 0 ? fallback : m_pairs[std::size_t(i)].value.view();
 }
 
 OdString OdDbObject::getString(const char* sub, int code, const OdString& fallback) const

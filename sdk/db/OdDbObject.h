@@ -118,4 +118,4 @@ protected:
 };
 
 // Short form of a pair literal in class constructors.
-constexpr OdDbDxfPair odPair(int code, const char* text) { return OdDbDxfPair{code, std::string_view(text)}; }
+inline OdDbDxfPair odPair(int code, const char* text) { return OdDbDxfPair{code, std::string_view(text)}; }
