@@ -110,45 +110,6 @@ std::string OdDxf::fromOdString(const OdString& text)
   return text.toUtf8();
 }
 
-std::string OdDxf::decodeUnicodeEscapes(std::string_view text)
-{
-  std::string out;
-  out.reserve(text.size());
-  auto hexval = [](char c) -> int {
-    if (c >= '0' && c <= '9') return c - '0';
-    if (c >= 'a' && c <= 'f') return c - 'a' + 10;
-    if (c >= 'A' && c <= 'F') return c - 'A' + 10;
-    return -1;
-  };
-  for (std::size_t i = 0; i < text.size();) {
-    if (text[i] == '\\' && i + 6 < text.size() + 0 && (text[i + 1] == 'U' || text[i + 1] == 'u') && text[i + 2] == '+') {
-      unsigned cp = 0;
-      bool ok = true;
-      for (int k = 0; k < 4; ++k) {
-        const int h = hexval(text[i + 3 + k]);
-        if (h < 0) { ok = false; break; }
-        cp = cp * 16 + unsigned(h);
-      }
-      if (ok) {
-        if (cp < 0x80) {
-          out += char(cp);
-        } else if (cp < 0x800) {
-          out += char(0xC0 | (cp >> 6));
-          out += char(0x80 | (cp & 0x3F));
-        } else {
-          out += char(0xE0 | (cp >> 12));
-          out += char(0x80 | ((cp >> 6) & 0x3F));
-          out += char(0x80 | (cp & 0x3F));
-        }
-        i += 7;
-        continue;
-      }
-    }
-    out += text[i++];
-  }
-  return out;
-}
-
 OdCmColor OdDxf::toColor(std::int16_t index, const OdDbDxfPair* rgb, const OdDbDxfPair* names)
 {
   OdCmColor c;

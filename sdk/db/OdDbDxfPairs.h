@@ -33,8 +33,6 @@ std::string fromDouble(double value);
 std::string fromInt(long long value);
 OdString toOdString(std::string_view utf8);
 std::string fromOdString(const OdString& text);
-// Replaces \U+XXXX escapes by the characters they stand for.
-std::string decodeUnicodeEscapes(std::string_view text);
 
 // Colours are kept as code 62 (the index), 420 (the RGB of a true colour)
 // and 430 ("BOOK$NAME" of a named true colour). The colour of an index and

@@ -59,9 +59,11 @@ const std::unordered_map<std::string_view, Creator>& objectFactory()
 class Reader
 {
 public:
-  Reader(OdDbDatabase* db, std::string_view text, const std::string& name) : m_db(db), m_tok(text), m_name(name)
+  Reader(OdDbDatabase* db, std::string_view text, const std::string& name, OdDxfTextDecoder* decoder)
+      : m_db(db), m_tok(text), m_name(name)
   {
     m_tok.setName(name);
+    m_tok.setDecoder(decoder);
     m_stage.resize(256);
   }
 
@@ -603,19 +605,6 @@ OdDbDatabasePtr odDxfReadBuffer(std::string bytes, const OdString& nameText)
     throw OdError(eFileInternalErr, OdString::formatted("Cannot read %s: it is no DXF file", name));
   std::string version, codepage;
   sniffHeader(bytes, version, codepage);
-  // Before R2007 (AC1021) text is in the drawing's code page, and
-  // characters outside it are written as \U+XXXX.
-  // Some writers put out R2007 and later in the code page all the same:
-  // text that is no UTF-8 is taken as the code page's.
-  const bool old = !version.empty() && version < "AC1021";
-  if (old || version.empty() || !isValidUtf8(bytes)) {
-    const bool high = std::any_of(bytes.begin(), bytes.end(), [](char c) { return (c & 0x80) != 0; });
-    const std::string enc = OdDxfCodePage::iconvName(codepage.empty() ? "ANSI_1252" : codepage);
-    if (high && !enc.empty())
-      OdDxfCodePage::toUtf8(enc, bytes);
-    if (bytes.find("\\U+") != std::string::npos || bytes.find("\\u+") != std::string::npos)
-      bytes = OdDxf::decodeUnicodeEscapes(bytes);
-  }
   auto buffer = std::make_shared<const std::string>(std::move(bytes));
   OdDbDatabasePtr db = OdDbDatabase::createObject();
   db->arena()->adopt(buffer);
@@ -623,7 +612,16 @@ OdDbDatabasePtr odDxfReadBuffer(std::string bytes, const OdString& nameText)
   db->setLoading(true);
   // Objects of drawings as they come take a hundred bytes of file or more.
   db->reserveObjects(buffer->size() / 128);
-  Reader reader(db, *buffer, name);
+  // Before R2007 (AC1021) text is in the drawing's code page, and
+  // characters outside it are written as \U+XXXX.
+  // Some writers put out R2007 and later in the code page all the same:
+  // text that is no UTF-8 is taken as the code page's.
+  std::unique_ptr<OdDxfTextDecoder> decoder;
+  const bool old = !version.empty() && version < "AC1021";
+  if (old || version.empty() || !isValidUtf8(*buffer))
+    decoder = std::make_unique<OdDxfTextDecoder>(
+        *buffer, OdDxfCodePage::iconvName(codepage.empty() ? "ANSI_1252" : codepage), *db->arena());
+  Reader reader(db, *buffer, name, decoder.get());
   reader.m_legacy = !version.empty() && version < "AC1012";
   reader.run();
   db->setLoading(false);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "sdk/db/OdDbDxfPairs.h"
+#include "sdk/dxf/OdDxfTextDecoder.h"
 
 #include <cstring>
 #include <string>
@@ -47,7 +48,8 @@ public:
     if (valueEnd > m_p && valueEnd[-1] == '\r')
       --valueEnd;
     pair.code = code;
-    pair.value = std::string_view(m_p, std::size_t(valueEnd - m_p));
+    const std::string_view value(m_p, std::size_t(valueEnd - m_p));
+    pair.value = m_decoder ? m_decoder->decode(value) : value;
     ++m_line;
     m_p = next;
     m_last = pair;
@@ -58,6 +60,8 @@ public:
   int line() const { return m_line; }
   // Fills `name` with the file name used in messages.
   void setName(const std::string& name) { m_name = name; }
+  // Values pass through the decoder (drawings before R2007); not owned.
+  void setDecoder(OdDxfTextDecoder* decoder) { m_decoder = decoder; }
 
 private:
   [[noreturn]] void fail(const char* what) const;
@@ -71,6 +75,7 @@ private:
   bool m_pushed = false;
   OdDbDxfPair m_last;
   std::string m_name;
+  OdDxfTextDecoder* m_decoder = nullptr;
 };
 
 namespace OdDxfBinary {
