@@ -12,7 +12,7 @@ std::string_view OdDbStringArena::store(std::string_view text)
     return std::string_view();
   if (text.size() > 4096) {
     auto big = std::make_shared<std::string>(text);
-    m_buffers.push_back(big);
+    m_owners.push_back(big);
     return *big;
   }
   if (m_chunks.empty() || m_used + text.size() > m_chunkSize) {
@@ -29,12 +29,12 @@ std::string_view OdDbStringArena::store(std::string_view text)
 
 OdDbDxfPair* OdDbStringArena::allocatePairs(std::size_t count)
 {
-  // Blocks grow to a megabyte: a drawing read holds millions of pairs, and
+  // Blocks grow to a huge page: a drawing read holds millions of pairs, and
   // few large blocks are what makes reading it quick.
-  constexpr std::size_t kLargest = (1u << 20) / sizeof(OdDbDxfPair);
+  constexpr std::size_t kLargest = OdLargeBuffer::kHugePage / sizeof(OdDbDxfPair);
   if (count > kLargest / 4) {
     m_pairBlocks.push_back(newPairBlock(count));
-    OdDbDxfPair* own = m_pairBlocks.back().get();
+    OdDbDxfPair* own = m_pairBlocks.back().pairs();
     // The block in use stays the last one.
     if (m_pairBlocks.size() > 1)
       std::swap(m_pairBlocks.back(), m_pairBlocks[m_pairBlocks.size() - 2]);
@@ -45,7 +45,7 @@ OdDbDxfPair* OdDbStringArena::allocatePairs(std::size_t count)
     m_pairBlocks.push_back(newPairBlock(m_pairBlockSize));
     m_pairsUsed = 0;
   }
-  OdDbDxfPair* p = m_pairBlocks.back().get() + m_pairsUsed;
+  OdDbDxfPair* p = m_pairBlocks.back().pairs() + m_pairsUsed;
   m_pairsUsed += count;
   return p;
 }
@@ -57,8 +57,15 @@ void OdDbStringArena::Free::operator()(void* p) const
 
 OdDbStringArena::PairBlock OdDbStringArena::newPairBlock(std::size_t count)
 {
-  void* p = std::malloc(count * sizeof(OdDbDxfPair));
+  PairBlock b;
+  const std::size_t bytes = count * sizeof(OdDbDxfPair);
+  if (bytes >= OdLargeBuffer::kHugePage) {
+    b.large = OdLargeBuffer(bytes);
+    return b;
+  }
+  void* p = std::malloc(bytes);
   if (!p)
     throw std::bad_alloc();
-  return PairBlock(static_cast<OdDbDxfPair*>(p));
+  b.small.reset(static_cast<OdDbDxfPair*>(p));
+  return b;
 }

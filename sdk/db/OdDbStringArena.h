@@ -2,6 +2,7 @@
 #pragma once
 
 #include "sdk/db/OdDbDxfPairArray.h"
+#include "sdk/kernel/OdLargeBuffer.h"
 
 #include <memory>
 #include <string>
@@ -15,21 +16,27 @@ class OdDbStringArena
 {
 public:
   std::string_view store(std::string_view text);
-  void adopt(std::shared_ptr<const std::string> buffer) { m_buffers.push_back(std::move(buffer)); }
+  // Keeps `owner` (of a file's text) as long as the arena lives.
+  void adopt(std::shared_ptr<const void> owner) { m_owners.push_back(std::move(owner)); }
   // Room for `count` pairs, for one object's array to borrow.
   OdDbDxfPair* allocatePairs(std::size_t count);
 
 private:
-  // Pair blocks are left as malloc gives them: every pair is written before
-  // it is read.
+  // Small pair blocks come from malloc, as it gives them (every pair is
+  // written before it is read), large ones are large buffers.
   struct Free
   {
     void operator()(void* p) const;
   };
-  using PairBlock = std::unique_ptr<OdDbDxfPair[], Free>;
-  PairBlock newPairBlock(std::size_t count);
+  struct PairBlock
+  {
+    std::unique_ptr<OdDbDxfPair[], Free> small;
+    OdLargeBuffer large;
+    OdDbDxfPair* pairs() const { return small ? small.get() : reinterpret_cast<OdDbDxfPair*>(large.data()); }
+  };
+  static PairBlock newPairBlock(std::size_t count);
 
-  std::vector<std::shared_ptr<const std::string>> m_buffers;
+  std::vector<std::shared_ptr<const void>> m_owners;
   std::vector<std::unique_ptr<char[]>> m_chunks;
   std::size_t m_used = 0;
   std::size_t m_chunkSize = 0;

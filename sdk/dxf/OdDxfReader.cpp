@@ -16,6 +16,8 @@
 #include "sdk/db/OdDbSymbolTable.h"
 #include "sdk/db/OdDbText.h"
 
+#include "sdk/kernel/OdLargeBuffer.h"
+
 #include <QFile>
 #include <QFileInfo>
 
@@ -551,7 +553,7 @@ void sniffHeader(std::string_view text, std::string& version, std::string& codep
   }
 }
 
-bool isValidUtf8(const std::string& s)
+bool isValidUtf8(std::string_view s)
 {
   const auto* p = reinterpret_cast<const unsigned char*>(s.data());
   const auto* end = p + s.size();
@@ -580,52 +582,73 @@ bool isValidUtf8(const std::string& s)
   return true;
 }
 
-bool looksLikeDwg(const std::string& bytes)
+bool looksLikeDwg(std::string_view bytes)
 {
   return bytes.size() >= 6 && bytes.compare(0, 2, "AC") == 0 &&
          (bytes.compare(0, 4, "AC10") == 0 || bytes.compare(0, 4, "AC1.") == 0 || bytes.compare(0, 4, "AC2.") == 0);
 }
 
-} // namespace
-
-OdDbDatabasePtr odDxfReadBuffer(std::string bytes, const OdString& nameText)
+// The bytes of a drawing, which may be changed in place, and what keeps them.
+struct DrawingBytes
 {
-  const std::string name = nameText.toUtf8();
-  if (looksLikeDwg(bytes))
+  std::shared_ptr<void> owner;
+  char* data = nullptr;
+  std::size_t size = 0;
+  std::string_view view() const { return std::string_view(data, size); }
+};
+
+DrawingBytes ownedBytes(std::string bytes)
+{
+  auto owner = std::make_shared<std::string>(std::move(bytes));
+  return {owner, owner->data(), owner->size()};
+}
+
+OdDbDatabasePtr readDrawing(DrawingBytes bytes, const std::string& name)
+{
+  if (looksLikeDwg(bytes.view()))
     throw OdError(eUnsupportedFormat,
                   OdString::formatted("Cannot read %s: DWG drawings are not supported; save it as DXF", name));
-  if (OdDxfBinary::isBinary(bytes))
-    bytes = OdDxfBinary::toText(bytes);
+  if (OdDxfBinary::isBinary(bytes.view()))
+    bytes = ownedBytes(OdDxfBinary::toText(bytes.view()));
   // A byte order mark some editors put in front; line ends of old Macs.
-  if (bytes.compare(0, 3, "\xEF\xBB\xBF") == 0)
-    bytes.erase(0, 3);
-  if (bytes.find('\n') == std::string::npos && bytes.find('\r') != std::string::npos)
-    std::replace(bytes.begin(), bytes.end(), '\r', '\n');
-  if (std::memchr(bytes.data(), 0, std::min<std::size_t>(bytes.size(), 4096)))
+  if (bytes.view().substr(0, 3) == "\xEF\xBB\xBF") {
+    bytes.data += 3;
+    bytes.size -= 3;
+  }
+  if (!std::memchr(bytes.data, '\n', bytes.size) && std::memchr(bytes.data, '\r', bytes.size))
+    std::replace(bytes.data, bytes.data + bytes.size, '\r', '\n');
+  if (std::memchr(bytes.data, 0, std::min<std::size_t>(bytes.size, 4096)))
     throw OdError(eFileInternalErr, OdString::formatted("Cannot read %s: it is no DXF file", name));
+  const std::string_view text = bytes.view();
   std::string version, codepage;
-  sniffHeader(bytes, version, codepage);
-  auto buffer = std::make_shared<const std::string>(std::move(bytes));
+  sniffHeader(text, version, codepage);
   OdDbDatabasePtr db = OdDbDatabase::createObject();
-  db->arena()->adopt(buffer);
+  db->arena()->adopt(std::move(bytes.owner));
   db->setOriginalFileVersion(version);
   db->setLoading(true);
-  // Objects of drawings as they come take a hundred bytes of file or more.
-  db->reserveObjects(buffer->size() / 128);
+  // Objects of drawings as they come take 150 bytes of file or more.
+  db->reserveObjects(text.size() / 150);
   // Before R2007 (AC1021) text is in the drawing's code page, and
   // characters outside it are written as \U+XXXX.
   // Some writers put out R2007 and later in the code page all the same:
   // text that is no UTF-8 is taken as the code page's.
   std::unique_ptr<OdDxfTextDecoder> decoder;
   const bool old = !version.empty() && version < "AC1021";
-  if (old || version.empty() || !isValidUtf8(*buffer))
+  if (old || version.empty() || !isValidUtf8(text))
     decoder = std::make_unique<OdDxfTextDecoder>(
-        *buffer, OdDxfCodePage::iconvName(codepage.empty() ? "ANSI_1252" : codepage), *db->arena());
-  Reader reader(db, *buffer, name, decoder.get());
+        text, OdDxfCodePage::iconvName(codepage.empty() ? "ANSI_1252" : codepage), *db->arena());
+  Reader reader(db, text, name, decoder.get());
   reader.m_legacy = !version.empty() && version < "AC1012";
   reader.run();
   db->setLoading(false);
   return db;
+}
+
+} // namespace
+
+OdDbDatabasePtr odDxfReadBuffer(std::string bytes, const OdString& name)
+{
+  return readDrawing(ownedBytes(std::move(bytes)), name.toUtf8());
 }
 
 OdDbDatabasePtr odDxfReadFile(const OdString& path)
@@ -640,11 +663,19 @@ OdDbDatabasePtr odDxfReadFile(const OdString& path)
   QFile f(p);
   if (!f.open(QIODevice::ReadOnly))
     throw OdError(eFileAccessErr, OdString::formatted("Cannot read %s: %s", path, f.errorString()));
-  std::string bytes;
-  bytes.resize(std::size_t(f.size()));
-  if (f.size() > 0 && f.read(bytes.data(), f.size()) != f.size())
+  // The text stays in memory as long as the drawing: a large one gets a
+  // large buffer of its own.
+  const std::size_t size = std::size_t(f.size());
+  DrawingBytes bytes;
+  if (size >= OdLargeBuffer::kHugePage) {
+    auto buffer = std::make_shared<OdLargeBuffer>(size);
+    bytes = {buffer, buffer->data(), size};
+  } else {
+    bytes = ownedBytes(std::string(size, '\0'));
+  }
+  if (size > 0 && f.read(bytes.data, qint64(size)) != qint64(size))
     throw OdError(eFileAccessErr, OdString::formatted("Cannot read %s: %s", path, f.errorString()));
-  OdDbDatabasePtr db = odDxfReadBuffer(std::move(bytes), path);
+  OdDbDatabasePtr db = readDrawing(std::move(bytes), path.toUtf8());
   db->setFilename(OdString(info.absoluteFilePath()));
   return db;
 }

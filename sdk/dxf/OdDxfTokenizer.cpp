@@ -41,12 +41,12 @@ bool OdDxfTokenizer::slowCode(int& code)
 const char OdDxfBinary::kSentinel[22] = {'A', 'u', 't', 'o', 'C', 'A', 'D', ' ', 'B', 'i', 'n',
                                          'a', 'r', 'y', ' ', 'D', 'X', 'F', '\r', '\n', '\x1a', '\0'};
 
-bool OdDxfBinary::isBinary(const std::string& bytes)
+bool OdDxfBinary::isBinary(std::string_view bytes)
 {
   return bytes.size() >= 22 && std::memcmp(bytes.data(), kSentinel, 22) == 0;
 }
 
-std::string OdDxfBinary::toText(const std::string& bytes)
+std::string OdDxfBinary::toText(std::string_view bytes)
 {
   std::string out;
   out.reserve(bytes.size() * 2);

@@ -80,7 +80,7 @@ private:
 
 namespace OdDxfBinary {
 extern const char kSentinel[22];
-bool isBinary(const std::string& bytes);
+bool isBinary(std::string_view bytes);
 // The pairs of a binary DXF file written out as DXF text.
-std::string toText(const std::string& bytes);
+std::string toText(std::string_view bytes);
 } // namespace OdDxfBinary

@@ -6,15 +6,14 @@
 #include "sdk/db/OdDbDictionary.h"
 #include "sdk/db/OdDbSymbolTable.h"
 
+#include "sdk/kernel/OdLargeBuffer.h"
+
 #include <QSaveFile>
 
 #include <algorithm>
 #include <charconv>
 #include <cstdint>
-#include <cstdlib>
 #include <cstring>
-#include <memory>
-#include <new>
 #include <unordered_set>
 
 namespace {
@@ -75,7 +74,7 @@ public:
     }
     pair(0, "EOF");
   }
-  const char* data() const { return m_buf.get(); }
+  const char* data() const { return m_text.data(); }
   std::size_t size() const { return m_size; }
 
 private:
@@ -103,22 +102,14 @@ private:
     grow(bytes + bytes / 16);
   }
 
-  void grow(std::size_t capacity)
-  {
-    char* p = static_cast<char*>(std::realloc(m_buf.get(), capacity));
-    if (!p)
-      throw std::bad_alloc();
-    m_buf.release();
-    m_buf.reset(p);
-    m_capacity = capacity;
-  }
+  void grow(std::size_t capacity) { m_text.resize(capacity); }
 
   // Room for `n` more bytes; where they go.
   char* room(std::size_t n)
   {
-    if (m_capacity - m_size < n)
-      grow(std::max(m_capacity * 2, m_size + n));
-    return m_buf.get() + m_size;
+    if (m_text.size() - m_size < n)
+      grow(std::max(m_text.size() * 2, m_size + n));
+    return m_text.data() + m_size;
   }
 
   void pair(int code, std::string_view value)
@@ -159,7 +150,7 @@ private:
       }
     }
     *p++ = '\n';
-    m_size = std::size_t(p - m_buf.get());
+    m_size = std::size_t(p - m_text.data());
   }
 
   void section(std::string_view name)
@@ -332,17 +323,9 @@ private:
     endsec();
   }
 
-  struct Free
-  {
-    void operator()(char* p) const { std::free(p); }
-  };
-
   OdDbDatabase* m_db;
-  // The text grows in one block of its own; realloc moves it, when it must,
-  // without copying page by page.
-  std::unique_ptr<char, Free> m_buf;
+  OdLargeBuffer m_text; // its size is the room there is; m_size is what is used
   std::size_t m_size = 0;
-  std::size_t m_capacity = 0;
   std::unordered_set<std::string> m_usedTypes;
 };
 
