@@ -42,7 +42,7 @@ OdDbDxfPairArray& OdDbDxfPairArray::operator=(const OdDbDxfPairArray& other)
 OdDbDxfPairArray& OdDbDxfPairArray::operator=(OdDbDxfPairArray&& other) noexcept
 {
   if (this != &other) {
-    if (!isBorrowed())
+    if (!(m_capacity & (kBorrowed | kShared)))
       std::free(m_data);
     m_data = other.m_data;
     m_size = other.m_size;
@@ -55,13 +55,13 @@ OdDbDxfPairArray& OdDbDxfPairArray::operator=(OdDbDxfPairArray&& other) noexcept
 
 OdDbDxfPairArray::~OdDbDxfPairArray()
 {
-  if (!isBorrowed())
+  if (!(m_capacity & (kBorrowed | kShared)))
     std::free(m_data);
 }
 
 OdDbDxfPairArray OdDbDxfPairArray::borrowing(OdDbDxfPair* slice, std::size_t size)
 {
-  if (size >= kBorrowed)
+  if (size >= kShared)
     throw OdError(eInvalidInput, "too many pairs for one object");
   OdDbDxfPairArray a;
   a.m_data = slice;
@@ -70,16 +70,40 @@ OdDbDxfPairArray OdDbDxfPairArray::borrowing(OdDbDxfPair* slice, std::size_t siz
   return a;
 }
 
+OdDbDxfPairArray OdDbDxfPairArray::sharing(const OdDbDxfPair* table, std::size_t size)
+{
+  if (size >= kShared)
+    throw OdError(eInvalidInput, "too many pairs for one object");
+  OdDbDxfPairArray a;
+  a.m_data = const_cast<OdDbDxfPair*>(table); // never written: unshare() copies first
+  a.m_size = a.m_capacity = std::uint32_t(size);
+  a.m_capacity |= kShared;
+  return a;
+}
+
+void OdDbDxfPairArray::unshare()
+{
+  // The copy has room for a few more: the change that comes is often one.
+  const std::size_t size = m_size;
+  OdDbDxfPair* table = m_data;
+  m_data = nullptr;
+  m_size = m_capacity = 0;
+  grow(size + 4);
+  if (size)
+    std::memcpy(m_data, table, size * sizeof(OdDbDxfPair));
+  m_size = std::uint32_t(size);
+}
+
 void OdDbDxfPairArray::grow(std::size_t needed)
 {
-  if (needed >= kBorrowed)
+  if (needed >= kShared)
     throw OdError(eInvalidInput, "too many pairs for one object");
-  if (needed <= capacity())
+  if (needed <= capacity() && !(m_capacity & kShared))
     return;
   // Pairs are plain values: storage is moved with memcpy and realloc.
-  const std::size_t room = std::min<std::size_t>(kBorrowed - 1, std::max<std::size_t>(needed, capacity() * 2));
+  const std::size_t room = std::min<std::size_t>(kShared - 1, std::max<std::size_t>(needed, capacity() * 2));
   OdDbDxfPair* data = nullptr;
-  if (isBorrowed() || !m_data) {
+  if ((m_capacity & (kBorrowed | kShared)) || !m_data) {
     data = static_cast<OdDbDxfPair*>(std::malloc(room * sizeof(OdDbDxfPair)));
     if (data && m_size)
       std::memcpy(data, m_data, m_size * sizeof(OdDbDxfPair));
@@ -100,7 +124,7 @@ void OdDbDxfPairArray::reserve(std::size_t n)
 
 void OdDbDxfPairArray::push_back(const OdDbDxfPair& pair)
 {
-  if (m_size == capacity()) {
+  if (m_size == capacity() || (m_capacity & kShared)) {
     const OdDbDxfPair copy = pair; // `pair` may be one of ours
     grow(std::size_t(m_size) + 1);
     m_data[m_size++] = copy;
@@ -112,17 +136,18 @@ void OdDbDxfPairArray::push_back(const OdDbDxfPair& pair)
 OdDbDxfPairArray::iterator OdDbDxfPairArray::insert(const_iterator at, const OdDbDxfPair* first,
                                                     const OdDbDxfPair* last)
 {
+  // Positions count from the pairs as they are, before any copy is made.
   const std::size_t pos = std::size_t(at - m_data);
   const std::size_t n = std::size_t(last - first);
   if (n == 0)
-    return m_data + pos;
+    return writable() + pos;
   // Pairs of this very array move while room is made: copy them first.
   std::vector<OdDbDxfPair> own;
   if (first >= m_data && first < m_data + m_size) {
     own.assign(first, last);
     first = own.data();
   }
-  if (m_size + n > capacity())
+  if (m_size + n > capacity() || (m_capacity & kShared))
     grow(m_size + n);
   std::memmove(m_data + pos + n, m_data + pos, (m_size - pos) * sizeof(OdDbDxfPair));
   std::memcpy(m_data + pos, first, n * sizeof(OdDbDxfPair));
@@ -134,6 +159,7 @@ OdDbDxfPairArray::iterator OdDbDxfPairArray::erase(const_iterator first, const_i
 {
   const std::size_t pos = std::size_t(first - m_data);
   const std::size_t n = std::size_t(last - first);
+  writable();
   if (n == 0)
     return m_data + pos;
   std::memmove(m_data + pos, m_data + pos + n, (m_size - pos - n) * sizeof(OdDbDxfPair));

@@ -60,11 +60,13 @@ struct OdDbDxfPair
 };
 static_assert(sizeof(OdDbDxfPair) == 16, "pairs are the bulk of a drawing in memory");
 
-// The pairs of one object: a vector of pairs with storage of its own, or a
+// The pairs of one object: a vector of pairs with storage of its own, a
 // slice of a block that the drawing's arena owns, as reading a file leaves
-// them. The slice belongs to this array alone, so it is changed in place;
-// only growing past it moves the pairs to storage of their own. A copy
-// always has storage of its own.
+// them, or a constant table (a class's default pairs). The slice belongs to
+// this array alone, so it is changed in place; only growing past it moves
+// the pairs to storage of their own. A constant table is copied before the
+// first change: any access that could change a pair makes the copy. A copy
+// of an array always has storage of its own.
 class OdDbDxfPairArray
 {
 public:
@@ -84,22 +86,25 @@ public:
   // An array over `size` pairs at `slice`: storage that outlives the array
   // and that nothing else uses.
   static OdDbDxfPairArray borrowing(OdDbDxfPair* slice, std::size_t size);
+  // An array over a table that lives as long as the program and never
+  // changes.
+  static OdDbDxfPairArray sharing(const OdDbDxfPair* table, std::size_t size);
   bool isBorrowed() const { return (m_capacity & kBorrowed) != 0; }
 
   std::size_t size() const { return m_size; }
   bool empty() const { return m_size == 0; }
-  std::size_t capacity() const { return m_capacity & ~kBorrowed; }
-  OdDbDxfPair* data() { return m_data; }
+  std::size_t capacity() const { return m_capacity & ~(kBorrowed | kShared); }
+  OdDbDxfPair* data() { return writable(); }
   const OdDbDxfPair* data() const { return m_data; }
-  iterator begin() { return m_data; }
-  iterator end() { return m_data + m_size; }
+  iterator begin() { return writable(); }
+  iterator end() { return writable() + m_size; }
   const_iterator begin() const { return m_data; }
   const_iterator end() const { return m_data + m_size; }
-  OdDbDxfPair& operator[](std::size_t i) { return m_data[i]; }
+  OdDbDxfPair& operator[](std::size_t i) { return writable()[i]; }
   const OdDbDxfPair& operator[](std::size_t i) const { return m_data[i]; }
-  OdDbDxfPair& front() { return m_data[0]; }
+  OdDbDxfPair& front() { return writable()[0]; }
   const OdDbDxfPair& front() const { return m_data[0]; }
-  OdDbDxfPair& back() { return m_data[m_size - 1]; }
+  OdDbDxfPair& back() { return writable()[m_size - 1]; }
   const OdDbDxfPair& back() const { return m_data[m_size - 1]; }
 
   void reserve(std::size_t n);
@@ -116,10 +121,18 @@ public:
 
 private:
   static constexpr std::uint32_t kBorrowed = 0x80000000u;
-  // Room for `needed` pairs in storage of this array's own.
+  static constexpr std::uint32_t kShared = 0x40000000u;
+  // Room for `needed` pairs in storage that may be changed.
   void grow(std::size_t needed);
+  OdDbDxfPair* writable()
+  {
+    if (m_capacity & kShared)
+      unshare();
+    return m_data;
+  }
+  void unshare();
 
   OdDbDxfPair* m_data = nullptr;
   std::uint32_t m_size = 0;
-  std::uint32_t m_capacity = 0; // with kBorrowed: a slice of the arena's
+  std::uint32_t m_capacity = 0; // with kBorrowed: a slice of the arena's; kShared: a constant table
 };

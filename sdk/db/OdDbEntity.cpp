@@ -10,7 +10,8 @@ ODRX_NO_CONS_DEFINE_MEMBERS(OdDbCurve, OdDbEntity)
 
 OdDbEntity::OdDbEntity()
 {
-  initData("ENTITY", {odPair(100, kSub), odPair(8, "0")});
+  static const OdDbDxfPair defaults[] = {odPair(100, kSub), odPair(8, "0")};
+  initData("ENTITY", defaults);
 }
 
 OdCmColor OdDbEntity::color() const

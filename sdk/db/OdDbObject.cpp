@@ -63,12 +63,6 @@ OdDbObjectId OdDbObject::extensionDictionary() const
   return OdDbObjectId();
 }
 
-void OdDbObject::initData(const char* type, std::initializer_list<OdDbDxfPair> pairs)
-{
-  m_type = type;
-  m_pairs = OdDbDxfPairArray(pairs);
-}
-
 OdCmColor OdDbObject::colorOf(const char* sub, std::int16_t index) const
 {
   const int rgb = findPair(sub, 420), names = findPair(sub, 430);

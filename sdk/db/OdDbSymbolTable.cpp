@@ -54,7 +54,8 @@ void OdDbSymbolTableRecord::setName(const OdString& name)
 
 OdDbSymbolTable::OdDbSymbolTable()
 {
-  initData("TABLE", {odPair(2, ""), odPair(100, kSub), odPair(70, "0")});
+  static const OdDbDxfPair defaults[] = {odPair(2, ""), odPair(100, kSub), odPair(70, "0")};
+  initData("TABLE", defaults);
 }
 
 void OdDbSymbolTable::buildIndex() const
