@@ -22,8 +22,9 @@ OdString recordName(OdDbObjectId id)
 
 OdDbBlockReference::OdDbBlockReference()
 {
-  initData("INSERT", {odPair(100, "AcDbEntity"), odPair(8, "0"), odPair(100, kSub), odPair(2, ""), odPair(10, "0.0"),
-                      odPair(20, "0.0"), odPair(30, "0.0")});
+  static const OdDbDxfPair defaults[] = {odPair(100, "AcDbEntity"), odPair(8, "0"), odPair(100, kSub), odPair(2, ""),
+                                         odPair(10, "0.0"), odPair(20, "0.0"), odPair(30, "0.0")};
+  initData("INSERT", defaults);
 }
 
 OdDbObjectId OdDbBlockReference::blockTableRecord() const
@@ -67,10 +68,7 @@ OdDbObjectId OdDbBlockReference::appendAttribute(OdDbAttribute* attribute)
 
 OdDbObjectIteratorPtr OdDbBlockReference::attributeIterator() const
 {
-  auto it = OdRxObjectImpl<OdDbObjectIterator>::createObject();
-  it->m_ids = m_attributes.ids();
-  it->start();
-  return it;
+  return OdDbIdIterator::create<OdDbObjectIterator>(m_attributes.ids());
 }
 
 OdResult OdDbBlockReference::erase(bool erasing)
@@ -88,9 +86,10 @@ OdResult OdDbBlockReference::erase(bool erasing)
 
 OdDbDimension::OdDbDimension()
 {
-  initData("DIMENSION", {odPair(100, "AcDbEntity"), odPair(8, "0"), odPair(100, kSub), odPair(2, ""), odPair(10, "0.0"),
-                         odPair(20, "0.0"), odPair(30, "0.0"), odPair(11, "0.0"), odPair(21, "0.0"), odPair(31, "0.0"),
-                         odPair(70, "32"), odPair(3, "Standard")});
+  static const OdDbDxfPair defaults[] = {odPair(100, "AcDbEntity"), odPair(8, "0"), odPair(100, kSub), odPair(2, ""),
+                                         odPair(10, "0.0"), odPair(20, "0.0"), odPair(30, "0.0"), odPair(11, "0.0"),
+                                         odPair(21, "0.0"), odPair(31, "0.0"), odPair(70, "32"), odPair(3, "Standard")};
+  initData("DIMENSION", defaults);
 }
 
 OdDbObjectId OdDbDimension::dimBlockId() const

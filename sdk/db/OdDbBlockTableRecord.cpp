@@ -6,39 +6,6 @@
 
 ODRX_DEFINE_MEMBERS(OdDbBlockTableRecord, OdDbSymbolTableRecord, ODRX_CREATE_IMPL(OdDbBlockTableRecord, OdDbBlockTableRecord))
 
-void OdDbObjectIterator::start(bool atBeginning, bool skipErased)
-{
-  m_pos = atBeginning ? 0 : int(m_ids.size()) - 1;
-  skip(atBeginning, skipErased);
-}
-
-void OdDbObjectIterator::skip(bool forward, bool skipErased)
-{
-  while (!done() && skipErased && (m_ids[std::size_t(m_pos)].isErased() || !m_ids[std::size_t(m_pos)].isValid()))
-    m_pos += forward ? 1 : -1;
-}
-
-void OdDbObjectIterator::step(bool forward, bool skipErased)
-{
-  m_pos += forward ? 1 : -1;
-  skip(forward, skipErased);
-}
-
-OdDbEntityPtr OdDbObjectIterator::entity(OdDb::OpenMode mode, bool openErased) const
-{
-  return OdDbEntity::cast(objectId().openObject(mode, openErased));
-}
-
-bool OdDbObjectIterator::seek(OdDbObjectId id)
-{
-  for (std::size_t i = 0; i < m_ids.size(); ++i)
-    if (m_ids[i] == id) {
-      m_pos = int(i);
-      return true;
-    }
-  return false;
-}
-
 const OdString& OdDbBlockTableRecord::modelSpaceStr()
 {
   static const OdString s("*Model_Space");
@@ -125,10 +92,7 @@ void OdDbBlockTableRecord::removeEntity(OdDbObjectId id)
 
 OdDbObjectIteratorPtr OdDbBlockTableRecord::newIterator(bool atBeginning, bool skipErased) const
 {
-  auto it = OdRxObjectImpl<OdDbObjectIterator>::createObject();
-  it->m_ids = m_entities;
-  it->start(atBeginning, skipErased);
-  return it;
+  return OdDbIdIterator::create<OdDbObjectIterator>(m_entities, atBeginning, skipErased);
 }
 
 // The frame joins the drawing with the record; while a file is read the

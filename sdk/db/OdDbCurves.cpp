@@ -19,13 +19,25 @@ constexpr double kDeg = 180.0 / M_PI;
 #define ODDB_P3(c) odPair(c, "0.0"), odPair(c + 10, "0.0"), odPair(c + 20, "0.0")
 } // namespace
 
-OdDbLine::OdDbLine() { initData("LINE", {ODDB_ENT, odPair(100, kSub), ODDB_P3(10), ODDB_P3(11)}); }
-OdDbCircle::OdDbCircle() { initData("CIRCLE", {ODDB_ENT, odPair(100, kSub), ODDB_P3(10), odPair(40, "1.0")}); }
+OdDbLine::OdDbLine()
+{
+  static const OdDbDxfPair defaults[] = {ODDB_ENT, odPair(100, kSub), ODDB_P3(10), ODDB_P3(11)};
+  initData("LINE", defaults);
+}
+
+OdDbCircle::OdDbCircle()
+{
+  static const OdDbDxfPair defaults[] = {ODDB_ENT, odPair(100, kSub), ODDB_P3(10), odPair(40, "1.0")};
+  initData("CIRCLE", defaults);
+}
+
 OdDbArc::OdDbArc()
 {
-  initData("ARC", {ODDB_ENT, odPair(100, kSub), ODDB_P3(10), odPair(40, "1.0"), odPair(100, kArcSub), odPair(50, "0.0"),
-                   odPair(51, "90.0")});
+  static const OdDbDxfPair defaults[] = {ODDB_ENT, odPair(100, kSub), ODDB_P3(10), odPair(40, "1.0"),
+                                         odPair(100, kArcSub), odPair(50, "0.0"), odPair(51, "90.0")};
+  initData("ARC", defaults);
 }
+
 double OdDbArc::startAngle() const { return getDouble(kArcSub, 50, 0.0) / kDeg; }
 void OdDbArc::setStartAngle(double a) { setDouble(kArcSub, 50, a * kDeg); }
 double OdDbArc::endAngle() const { return getDouble(kArcSub, 51, 0.0) / kDeg; }
@@ -33,9 +45,10 @@ void OdDbArc::setEndAngle(double a) { setDouble(kArcSub, 51, a * kDeg); }
 
 OdDbEllipse::OdDbEllipse()
 {
-  initData("ELLIPSE", {ODDB_ENT, odPair(100, kSub), ODDB_P3(10), odPair(11, "1.0"), odPair(21, "0.0"), odPair(31, "0.0"),
-                       odPair(210, "0.0"), odPair(220, "0.0"), odPair(230, "1.0"), odPair(40, "1.0"), odPair(41, "0.0"),
-                       odPair(42, "6.283185307179586")});
+  static const OdDbDxfPair defaults[] = {ODDB_ENT, odPair(100, kSub), ODDB_P3(10), odPair(11, "1.0"), odPair(21, "0.0"),
+                                         odPair(31, "0.0"), odPair(210, "0.0"), odPair(220, "0.0"), odPair(230, "1.0"),
+                                         odPair(40, "1.0"), odPair(41, "0.0"), odPair(42, "6.283185307179586")};
+  initData("ELLIPSE", defaults);
 }
 
 void OdDbEllipse::set(const OdGePoint3d& center, const OdGeVector3d& unitNormal, const OdGeVector3d& majorAxis,
@@ -49,16 +62,24 @@ void OdDbEllipse::set(const OdGePoint3d& center, const OdGeVector3d& unitNormal,
   setDouble(kSub, 42, endAngle);
 }
 
-OdDbPoint::OdDbPoint() { initData("POINT", {ODDB_ENT, odPair(100, kSub), ODDB_P3(10)}); }
+OdDbPoint::OdDbPoint()
+{
+  static const OdDbDxfPair defaults[] = {ODDB_ENT, odPair(100, kSub), ODDB_P3(10)};
+  initData("POINT", defaults);
+}
+
 OdDbSolid::OdDbSolid()
 {
-  initData("SOLID", {ODDB_ENT, odPair(100, kSub), ODDB_P3(10), ODDB_P3(11), ODDB_P3(12), ODDB_P3(13)});
+  static const OdDbDxfPair defaults[] = {ODDB_ENT, odPair(100, kSub), ODDB_P3(10), ODDB_P3(11), ODDB_P3(12),
+                                         ODDB_P3(13)};
+  initData("SOLID", defaults);
 }
 
 OdDbSpline::OdDbSpline()
 {
-  initData("SPLINE", {ODDB_ENT, odPair(100, kSub), odPair(70, "8"), odPair(71, "3"), odPair(72, "0"), odPair(73, "0"),
-                      odPair(74, "0")});
+  static const OdDbDxfPair defaults[] = {ODDB_ENT, odPair(100, kSub), odPair(70, "8"), odPair(71, "3"), odPair(72, "0"),
+                                         odPair(73, "0"), odPair(74, "0")};
+  initData("SPLINE", defaults);
 }
 
 OdGePoint3dArray OdDbSpline::points(int code) const

@@ -52,7 +52,7 @@ OdDbStub* OdDbDatabase::newStub(const OdDbHandle& handle)
   OdDbStub* s = &m_stubs.back();
   s->handle = handle;
   s->database = this;
-  m_byHandle.emplace(handle.value(), s);
+  m_byHandle.insert(s);
   if (handle.value() >= m_handseed.value() && handle.value() < kTemporaryHandles)
     m_handseed = handle.value() + 1;
   return s;
@@ -61,11 +61,11 @@ OdDbStub* OdDbDatabase::newStub(const OdDbHandle& handle)
 void OdDbDatabase::reassignHandle(OdDbObjectId id, const OdDbHandle& handle)
 {
   OdDbStub* s = id.stub();
-  if (!s || m_byHandle.count(handle.value()))
+  if (!s || m_byHandle.find(handle.value()))
     throw OdError(eInvalidInput, OdString("handle in use: ") + handle.ascii());
   m_byHandle.erase(s->handle.value());
   s->handle = handle;
-  m_byHandle.emplace(handle.value(), s);
+  m_byHandle.insert(s);
   if (handle.value() >= m_handseed.value() && handle.value() < kTemporaryHandles)
     m_handseed = handle.value() + 1;
 }
@@ -74,9 +74,8 @@ OdDbObjectId OdDbDatabase::getOdDbObjectId(const OdDbHandle& handle, bool create
 {
   if (handle.isNull())
     return OdDbObjectId();
-  auto it = m_byHandle.find(handle.value());
-  if (it != m_byHandle.end())
-    return OdDbObjectId(it->second);
+  if (OdDbStub* s = m_byHandle.find(handle.value()))
+    return OdDbObjectId(s);
   return createIfNotFound ? OdDbObjectId(newStub(handle)) : OdDbObjectId();
 }
 
@@ -88,11 +87,10 @@ OdDbObjectId OdDbDatabase::addOdDbObject(OdDbObject* object, OdDbObjectId ownerI
     throw OdError(eInvalidInput, "the object is already in a database");
   OdDbStub* stub = nullptr;
   if (!handle.isNull()) {
-    auto it = m_byHandle.find(handle.value());
-    if (it != m_byHandle.end()) {
-      if (it->second->object)
+    stub = m_byHandle.find(handle.value());
+    if (stub) {
+      if (stub->object)
         throw OdError(eInvalidInput, OdString("handle in use: ") + handle.ascii());
-      stub = it->second;
     } else {
       stub = newStub(handle);
     }
@@ -360,32 +358,22 @@ void OdDbDatabase::setCLAYER(OdDbObjectId id) { setHeaderString("$CLAYER", 8, na
 
 OdCmColor OdDbDatabase::getCECOLOR() const
 {
-  OdCmColor c;
-  const HeaderVar* v = headerVar("$CECOLOR");
-  c.setColorIndex(std::int16_t(getHeaderInt("$CECOLOR", 256)));
-  if (v)
+  const OdDbDxfPair* rgb = nullptr;
+  const OdDbDxfPair* names = nullptr;
+  if (const HeaderVar* v = headerVar("$CECOLOR"))
     for (const OdDbDxfPair& p : v->pairs) {
-      if (p.code == 420) {
-        const auto rgb = std::uint32_t(OdDxf::toInt(p.value));
-        c.setRGB(std::uint8_t(rgb >> 16), std::uint8_t(rgb >> 8), std::uint8_t(rgb));
-      } else if (p.code == 430) {
-        c.setNamesFromDxf(OdDxf::toOdString(p.value));
-      }
+      if (p.code == 420 && !rgb)
+        rgb = &p;
+      else if (p.code == 430 && !names)
+        names = &p;
     }
-  return c;
+  return OdDxf::toColor(std::int16_t(getHeaderInt("$CECOLOR", 256)), rgb, names);
 }
 
 void OdDbDatabase::setCECOLOR(const OdCmColor& c)
 {
-  const std::string aci = OdDxf::fromInt(c.isByLayer() ? 256 : c.colorIndex());
-  const std::string rgb = OdDxf::fromInt(c.rgb());
-  const std::string name = OdDxf::fromOdString(c.colorNameForDxf());
-  OdDbDxfPairArray pairs{{62, aci}};
-  if (c.isByColor()) {
-    pairs.push_back({420, rgb});
-    if (!name.empty())
-      pairs.push_back({430, name});
-  }
+  OdDbDxfPairArray pairs{{62, m_arena->store(OdDxf::fromInt(c.isByLayer() ? 256 : c.colorIndex()))}};
+  OdDxf::appendTrueColor(c, pairs, *m_arena);
   setHeaderVar("$CECOLOR", pairs);
 }
 

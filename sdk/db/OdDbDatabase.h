@@ -2,6 +2,7 @@
 #pragma once
 
 #include "sdk/db/OdCmColor.h"
+#include "sdk/db/OdDbHandleMap.h"
 #include "sdk/db/OdDbObject.h"
 
 #include <deque>
@@ -47,6 +48,17 @@ public:
   }
   // Every id with an object, in handle order.
   std::vector<OdDbObjectId> allObjectIds() const;
+  // Calls `f` with every object that is not erased, in no particular order:
+  // quicker than allObjectIds where the order does not matter.
+  template <class F>
+  void forEachObject(F&& f) const
+  {
+    for (const OdDbStub& s : m_stubs)
+      if (s.object && !s.erased)
+        f(static_cast<const OdDbObject*>(s.object));
+  }
+  // Makes room for about `count` objects, for readers that can tell.
+  void reserveObjects(std::size_t count) { m_byHandle.reserve(count); }
 
   // --- tables and well-known objects --------------------------------------
   OdDbObjectId getBlockTableId() const { return tableId("BLOCK_RECORD"); }
@@ -207,7 +219,7 @@ private:
   void fireHeader(const std::string& name, bool changed) const;
 
   std::deque<OdDbStub> m_stubs;
-  std::unordered_map<std::uint64_t, OdDbStub*> m_byHandle;
+  OdDbHandleMap m_byHandle;
   OdDbHandle m_handseed = 1;
   std::unordered_map<std::string, OdDbObjectId> m_tables;
   OdDbObjectId m_rootDictionary;

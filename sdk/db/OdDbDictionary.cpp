@@ -8,7 +8,8 @@ ODRX_DEFINE_MEMBERS(OdDbDictionary, OdDbObject, ODRX_CREATE_IMPL(OdDbDictionary,
 
 OdDbDictionary::OdDbDictionary()
 {
-  initData("DICTIONARY", {odPair(100, kSub), odPair(281, "1")});
+  static const OdDbDxfPair defaults[] = {odPair(100, kSub), odPair(281, "1")};
+  initData("DICTIONARY", defaults);
 }
 
 std::vector<std::pair<OdString, OdDbObjectId>> OdDbDictionary::entries() const

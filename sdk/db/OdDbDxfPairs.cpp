@@ -1,29 +1,8 @@
-// Pair text storage and the conversions between pair texts and values.
+// The conversions between pair texts and values.
 #include "sdk/db/OdDbDxfPairs.h"
 
 #include <charconv>
 #include <cstring>
-
-std::string_view OdDbStringArena::store(std::string_view text)
-{
-  if (text.empty())
-    return std::string_view();
-  if (text.size() > 4096) {
-    auto big = std::make_shared<std::string>(text);
-    m_buffers.push_back(big);
-    return *big;
-  }
-  if (m_chunks.empty() || m_used + text.size() > m_chunkSize) {
-    // Chunks grow with use, so that small arenas (one object) stay small.
-    m_chunkSize = m_chunks.empty() ? 256 : std::min<std::size_t>(m_chunkSize * 2, 65536);
-    m_chunks.emplace_back(new char[m_chunkSize]);
-    m_used = 0;
-  }
-  char* p = m_chunks.back().get() + m_used;
-  std::memcpy(p, text.data(), text.size());
-  m_used += text.size();
-  return std::string_view(p, text.size());
-}
 
 OdDxf::ValueType OdDxf::codeType(int code)
 {
@@ -131,41 +110,24 @@ std::string OdDxf::fromOdString(const OdString& text)
   return text.toUtf8();
 }
 
-std::string OdDxf::decodeUnicodeEscapes(std::string_view text)
+OdCmColor OdDxf::toColor(std::int16_t index, const OdDbDxfPair* rgb, const OdDbDxfPair* names)
 {
-  std::string out;
-  out.reserve(text.size());
-  auto hexval = [](char c) -> int {
-    if (c >= '0' && c <= '9') return c - '0';
-    if (c >= 'a' && c <= 'f') return c - 'a' + 10;
-    if (c >= 'A' && c <= 'F') return c - 'A' + 10;
-    return -1;
-  };
-  for (std::size_t i = 0; i < text.size();) {
-    if (text[i] == '\\' && i + 6 < text.size() + 0 && (text[i + 1] == 'U' || text[i + 1] == 'u') && text[i + 2] == '+') {
-      unsigned cp = 0;
-      bool ok = true;
-      for (int k = 0; k < 4; ++k) {
-        const int h = hexval(text[i + 3 + k]);
-        if (h < 0) { ok = false; break; }
-        cp = cp * 16 + unsigned(h);
-      }
-      if (ok) {
-        if (cp < 0x80) {
-          out += char(cp);
-        } else if (cp < 0x800) {
-          out += char(0xC0 | (cp >> 6));
-          out += char(0x80 | (cp & 0x3F));
-        } else {
-          out += char(0xE0 | (cp >> 12));
-          out += char(0x80 | ((cp >> 6) & 0x3F));
-          out += char(0x80 | (cp & 0x3F));
-        }
-        i += 7;
-        continue;
-      }
-    }
-    out += text[i++];
+  OdCmColor c;
+  c.setColorIndex(index);
+  if (rgb) {
+    const auto v = std::uint32_t(toInt(rgb->value));
+    c.setRGB(std::uint8_t(v >> 16), std::uint8_t(v >> 8), std::uint8_t(v));
+    if (names)
+      c.setNamesFromDxf(toOdString(names->value));
   }
-  return out;
+  return c;
+}
+
+void OdDxf::appendTrueColor(const OdCmColor& color, OdDbDxfPairArray& out, OdDbStringArena& arena)
+{
+  if (!color.isByColor())
+    return;
+  out.push_back({420, arena.store(fromInt(color.rgb()))});
+  if (!color.colorName().isEmpty())
+    out.push_back({430, arena.store(fromOdString(color.colorNameForDxf()))});
 }

@@ -1,6 +1,9 @@
-// Group-code pairs, the storage of every drawing object, and their text arena.
+// Conversions between the texts of group-code pairs and values.
 #pragma once
 
+#include "sdk/db/OdCmColor.h"
+#include "sdk/db/OdDbDxfPairArray.h"
+#include "sdk/db/OdDbStringArena.h"
 #include "sdk/kernel/OdString.h"
 
 #include <cstdint>
@@ -8,31 +11,6 @@
 #include <string>
 #include <string_view>
 #include <vector>
-
-// One group code with its value as text. The text lives in a string arena
-// (or is a literal): pairs are cheap to copy and never own memory.
-struct OdDbDxfPair
-{
-  int code = 0;
-  std::string_view value;
-};
-using OdDbDxfPairArray = std::vector<OdDbDxfPair>;
-
-// Append-only storage for pair texts: the buffers of files read (adopted
-// whole, so that reading copies nothing) and texts set later.
-class OdDbStringArena
-{
-public:
-  std::string_view store(std::string_view text);
-  void adopt(std::shared_ptr<const std::string> buffer) { m_buffers.push_back(std::move(buffer)); }
-
-private:
-  std::vector<std::shared_ptr<const std::string>> m_buffers;
-  std::vector<std::unique_ptr<char[]>> m_chunks;
-  std::size_t m_used = 0;
-  std::size_t m_chunkSize = 0;
-};
-using OdDbStringArenaPtr = std::shared_ptr<OdDbStringArena>;
 
 // Conversions between pair texts and values. Numbers are written in their
 // shortest exact form, so that a value read and written again is the same
@@ -55,6 +33,12 @@ std::string fromDouble(double value);
 std::string fromInt(long long value);
 OdString toOdString(std::string_view utf8);
 std::string fromOdString(const OdString& text);
-// Replaces \U+XXXX escapes by the characters they stand for.
-std::string decodeUnicodeEscapes(std::string_view text);
+
+// Colours are kept as code 62 (the index), 420 (the RGB of a true colour)
+// and 430 ("BOOK$NAME" of a named true colour). The colour of an index and
+// the pairs 420 and 430 that go with it (null when absent).
+OdCmColor toColor(std::int16_t index, const OdDbDxfPair* rgb, const OdDbDxfPair* names);
+// Appends 420, and 430 for a named colour, when the colour is a true colour;
+// their texts are stored in `arena`.
+void appendTrueColor(const OdCmColor& color, OdDbDxfPairArray& out, OdDbStringArena& arena);
 } // namespace OdDxf

@@ -10,40 +10,25 @@ ODRX_NO_CONS_DEFINE_MEMBERS(OdDbCurve, OdDbEntity)
 
 OdDbEntity::OdDbEntity()
 {
-  initData("ENTITY", {odPair(100, kSub), odPair(8, "0")});
+  static const OdDbDxfPair defaults[] = {odPair(100, kSub), odPair(8, "0")};
+  initData("ENTITY", defaults);
 }
 
 OdCmColor OdDbEntity::color() const
 {
-  OdCmColor c;
-  c.setColorIndex(std::int16_t(getInt(kSub, 62, 256)));
-  const int rgb = findPair(kSub, 420);
-  if (rgb >= 0) {
-    const auto v = std::uint32_t(OdDxf::toInt(m_pairs[std::size_t(rgb)].value));
-    c.setRGB(std::uint8_t(v >> 16), std::uint8_t(v >> 8), std::uint8_t(v));
-    const int name = findPair(kSub, 430);
-    if (name >= 0)
-      c.setNamesFromDxf(OdDxf::toOdString(m_pairs[std::size_t(name)].value));
-  }
-  return c;
+  return colorOf(kSub, std::int16_t(getInt(kSub, 62, 256)));
 }
 
 void OdDbEntity::setColor(const OdCmColor& c)
 {
-  removeCode(kSub, 420);
-  removeCode(kSub, 430);
   // By layer is the default and is written as nothing at all.
   if (c.isByLayer() && !c.isByColor()) {
+    removeCode(kSub, 420);
+    removeCode(kSub, 430);
     removeCode(kSub, 62);
     return;
   }
-  setInt(kSub, 62, c.colorIndex());
-  if (c.isByColor()) {
-    const int at = findPair(kSub, 62) + 1;
-    m_pairs.insert(m_pairs.begin() + at, OdDbDxfPair{420, storeText(OdDxf::fromInt(c.rgb()))});
-    if (!c.colorName().isEmpty())
-      m_pairs.insert(m_pairs.begin() + at + 1, OdDbDxfPair{430, storeText(OdDxf::fromOdString(c.colorNameForDxf()))});
-  }
+  setColorCodes(kSub, c.colorIndex(), c);
 }
 
 void OdDbEntity::setColorIndex(std::int16_t index)

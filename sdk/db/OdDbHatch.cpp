@@ -9,9 +9,12 @@ ODRX_DEFINE_MEMBERS(OdDbHatch, OdDbEntity, ODRX_CREATE_IMPL(OdDbHatch, OdDbHatch
 
 OdDbHatch::OdDbHatch()
 {
-  initData("HATCH", {odPair(100, "AcDbEntity"), odPair(8, "0"), odPair(100, kSub), odPair(10, "0.0"), odPair(20, "0.0"),
-                     odPair(30, "0.0"), odPair(210, "0.0"), odPair(220, "0.0"), odPair(230, "1.0"), odPair(2, "SOLID"),
-                     odPair(70, "1"), odPair(71, "0"), odPair(91, "0"), odPair(75, "0"), odPair(76, "1"), odPair(98, "0")});
+  static const OdDbDxfPair defaults[] = {odPair(100, "AcDbEntity"), odPair(8, "0"), odPair(100, kSub),
+                                         odPair(10, "0.0"), odPair(20, "0.0"), odPair(30, "0.0"), odPair(210, "0.0"),
+                                         odPair(220, "0.0"), odPair(230, "1.0"), odPair(2, "SOLID"), odPair(70, "1"),
+                                         odPair(71, "0"), odPair(91, "0"), odPair(75, "0"), odPair(76, "1"),
+                                         odPair(98, "0")};
+  initData("HATCH", defaults);
 }
 
 namespace {

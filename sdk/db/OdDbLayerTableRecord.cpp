@@ -14,38 +14,19 @@ OdDbLayerTableRecord::OdDbLayerTableRecord()
 
 OdCmColor OdDbLayerTableRecord::color() const
 {
-  OdCmColor c;
   long long aci = getInt(kSub, 62, 7);
   if (aci < -255 || aci > 256)
     aci = 7; // nonsense from a damaged file
-  c.setColorIndex(std::int16_t(aci < 0 ? -aci : aci));
-  const int rgb = findPair(kSub, 420);
-  if (rgb >= 0) {
-    const auto v = std::uint32_t(OdDxf::toInt(m_pairs[std::size_t(rgb)].value));
-    c.setRGB(std::uint8_t(v >> 16), std::uint8_t(v >> 8), std::uint8_t(v));
-    const int name = findPair(kSub, 430);
-    if (name >= 0)
-      c.setNamesFromDxf(OdDxf::toOdString(m_pairs[std::size_t(name)].value));
-  }
-  return c;
+  return colorOf(kSub, std::int16_t(aci < 0 ? -aci : aci));
 }
 
 void OdDbLayerTableRecord::setColor(const OdCmColor& c)
 {
-  const bool off = isOff();
-  removeCode(kSub, 420);
-  removeCode(kSub, 430);
   // The sign of the index carries on/off, so the state survives a new colour.
   int aci = c.colorIndex();
   if (aci <= 0 || aci > 255)
     aci = 7; // a layer has a real colour
-  setInt(kSub, 62, off ? -aci : aci);
-  if (c.isByColor()) {
-    const int at = findPair(kSub, 62) + 1;
-    m_pairs.insert(m_pairs.begin() + at, OdDbDxfPair{420, storeText(OdDxf::fromInt(c.rgb()))});
-    if (!c.colorName().isEmpty())
-      m_pairs.insert(m_pairs.begin() + at + 1, OdDbDxfPair{430, storeText(OdDxf::fromOdString(c.colorNameForDxf()))});
-  }
+  setColorCodes(kSub, isOff() ? -aci : aci, c);
 }
 
 void OdDbLayerTableRecord::setIsOff(bool off)

@@ -18,7 +18,8 @@ namespace {
 
 OdDbPlotSettings::OdDbPlotSettings()
 {
-  initData("PLOTSETTINGS", {ODDB_PLOT_BODY});
+  static const OdDbDxfPair defaults[] = {ODDB_PLOT_BODY};
+  initData("PLOTSETTINGS", defaults);
 }
 
 void OdDbPlotSettings::setUseStandardScale(bool on)
@@ -43,12 +44,15 @@ void OdDbPlotSettings::getCustomPrintScale(double& numerator, double& denominato
 
 OdDbLayout::OdDbLayout()
 {
-  initData("LAYOUT", {ODDB_PLOT_BODY, odPair(100, kSub), odPair(1, "Layout1"), odPair(70, "1"), odPair(71, "1"),
-                      odPair(10, "0.0"), odPair(20, "0.0"), odPair(11, "12.0"), odPair(21, "9.0"), odPair(12, "0.0"),
-                      odPair(22, "0.0"), odPair(32, "0.0"), odPair(14, "0.0"), odPair(24, "0.0"), odPair(34, "0.0"),
-                      odPair(15, "0.0"), odPair(25, "0.0"), odPair(35, "0.0"), odPair(146, "0.0"), odPair(13, "0.0"),
-                      odPair(23, "0.0"), odPair(33, "0.0"), odPair(16, "1.0"), odPair(26, "0.0"), odPair(36, "0.0"),
-                      odPair(17, "0.0"), odPair(27, "1.0"), odPair(37, "0.0"), odPair(76, "0"), odPair(330, "0")});
+  static const OdDbDxfPair defaults[] = {ODDB_PLOT_BODY, odPair(100, kSub), odPair(1, "Layout1"), odPair(70, "1"),
+                                         odPair(71, "1"), odPair(10, "0.0"), odPair(20, "0.0"), odPair(11, "12.0"),
+                                         odPair(21, "9.0"), odPair(12, "0.0"), odPair(22, "0.0"), odPair(32, "0.0"),
+                                         odPair(14, "0.0"), odPair(24, "0.0"), odPair(34, "0.0"), odPair(15, "0.0"),
+                                         odPair(25, "0.0"), odPair(35, "0.0"), odPair(146, "0.0"), odPair(13, "0.0"),
+                                         odPair(23, "0.0"), odPair(33, "0.0"), odPair(16, "1.0"), odPair(26, "0.0"),
+                                         odPair(36, "0.0"), odPair(17, "0.0"), odPair(27, "1.0"), odPair(37, "0.0"),
+                                         odPair(76, "0"), odPair(330, "0")};
+  initData("LAYOUT", defaults);
 }
 
 bool OdDbLayout::modelType() const

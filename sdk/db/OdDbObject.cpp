@@ -112,10 +112,21 @@ void OdDbObject::addPersistentReactor(OdDbObjectId reactorId)
   m_pairs.insert(m_pairs.begin(), {OdDbDxfPair{102, "{ACAD_REACTORS"}, entry, OdDbDxfPair{102, "}"}});
 }
 
-void OdDbObject::initData(const char* type, std::initializer_list<OdDbDxfPair> pairs)
+OdCmColor OdDbObject::colorOf(const char* sub, std::int16_t index) const
 {
-  m_type = type;
-  m_pairs.assign(pairs.begin(), pairs.end());
+  const int rgb = findPair(sub, 420), names = findPair(sub, 430);
+  return OdDxf::toColor(index, rgb < 0 ? nullptr : &m_pairs[std::size_t(rgb)],
+                        names < 0 ? nullptr : &m_pairs[std::size_t(names)]);
+}
+
+void OdDbObject::setColorCodes(const char* sub, long long index, const OdCmColor& color)
+{
+  removeCode(sub, 420);
+  removeCode(sub, 430);
+  setInt(sub, 62, index);
+  OdDbDxfPairArray trueColor;
+  OdDxf::appendTrueColor(color, trueColor, *arena());
+  m_pairs.insert(m_pairs.begin() + findPair(sub, 62) + 1, trueColor.begin(), trueColor.end());
 }
 
 void OdDbObject::setDxfData(std::string type, OdDbDxfPairArray pairs, const OdDbStringArenaPtr& arena)
@@ -171,7 +182,7 @@ int OdDbObject::findPair(const char* sub, int code, int from) const
 std::string_view OdDbObject::rawValue(const char* sub, int code, std::string_view fallback) const
 {
   const int i = findPair(sub, code);
-  return i < 0 ? fallback : m_pairs[std::size_t(i)].value;
+  return i < 0 ? fallback : m_pairs[std::size_t(i)].value.view();
 }
 
 OdString OdDbObject::getString(const char* sub, int code, const OdString& fallback) const

@@ -111,8 +111,22 @@ public:
 
 protected:
   OdDbObject();
-  // Sets type and the pairs a new object starts with (literal texts).
-  void initData(const char* type, std::initializer_list<OdDbDxfPair> pairs);
+  // Sets type and the pairs a new object starts with: a table of literal
+  // texts that lives as long as the program (a static of the constructor),
+  // shared until the object changes a pair, so that making an object that
+  // a reader fills at once costs no copy.
+  template <std::size_t N>
+  void initData(const char* type, const OdDbDxfPair (&defaults)[N])
+  {
+    m_type = type;
+    m_pairs = OdDbDxfPairArray::sharing(defaults, N);
+  }
+  // The colour of codes 62, 420 and 430 in the section `sub`; `index` is
+  // what code 62 stands for, read by the caller.
+  OdCmColor colorOf(const char* sub, std::int16_t index) const;
+  // Sets code 62 to `index` and puts 420 and 430 right after it for a true
+  // colour, or removes them for any other colour.
+  void setColorCodes(const char* sub, long long index, const OdCmColor& color);
   int xdataStart() const;
 
   OdDbStub* m_stub = nullptr; // not owned: the stub owns this object
@@ -125,4 +139,4 @@ protected:
 };
 
 // Short form of a pair literal in class constructors.
-constexpr OdDbDxfPair odPair(int code, const char* text) { return OdDbDxfPair{code, std::string_view(text)}; }
+inline OdDbDxfPair odPair(int code, const char* text) { return OdDbDxfPair{code, std::string_view(text)}; }

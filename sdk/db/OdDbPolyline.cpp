@@ -10,7 +10,9 @@ ODRX_DEFINE_MEMBERS(OdDb2dPolyline, OdDbCurve, ODRX_CREATE_IMPL(OdDb2dPolyline, 
 
 OdDbPolyline::OdDbPolyline()
 {
-  initData("LWPOLYLINE", {odPair(100, "AcDbEntity"), odPair(8, "0"), odPair(100, kSub), odPair(90, "0"), odPair(70, "0")});
+  static const OdDbDxfPair defaults[] = {odPair(100, "AcDbEntity"), odPair(8, "0"), odPair(100, kSub), odPair(90, "0"),
+                                         odPair(70, "0")};
+  initData("LWPOLYLINE", defaults);
 }
 
 std::vector<OdDbPolyline::Vertex> OdDbPolyline::vertices() const
@@ -113,22 +115,22 @@ void OdDbPolyline::setClosed(bool closed)
 
 OdDb2dVertex::OdDb2dVertex()
 {
-  initData("VERTEX", {odPair(100, "AcDbEntity"), odPair(8, "0"), odPair(100, "AcDbVertex"), odPair(100, kSub),
-                      odPair(10, "0.0"), odPair(20, "0.0"), odPair(30, "0.0"), odPair(70, "0")});
+  static const OdDbDxfPair defaults[] = {odPair(100, "AcDbEntity"), odPair(8, "0"), odPair(100, "AcDbVertex"),
+                                         odPair(100, kSub), odPair(10, "0.0"), odPair(20, "0.0"), odPair(30, "0.0"),
+                                         odPair(70, "0")};
+  initData("VERTEX", defaults);
 }
 
 OdDb2dPolyline::OdDb2dPolyline()
 {
-  initData("POLYLINE", {odPair(100, "AcDbEntity"), odPair(8, "0"), odPair(100, kSub), odPair(66, "1"), odPair(10, "0.0"),
-                        odPair(20, "0.0"), odPair(30, "0.0"), odPair(70, "0")});
+  static const OdDbDxfPair defaults[] = {odPair(100, "AcDbEntity"), odPair(8, "0"), odPair(100, kSub), odPair(66, "1"),
+                                         odPair(10, "0.0"), odPair(20, "0.0"), odPair(30, "0.0"), odPair(70, "0")};
+  initData("POLYLINE", defaults);
 }
 
 OdDbObjectIteratorPtr OdDb2dPolyline::vertexIterator() const
 {
-  auto it = OdRxObjectImpl<OdDbObjectIterator>::createObject();
-  it->m_ids = m_vertices.ids();
-  it->start();
-  return it;
+  return OdDbIdIterator::create<OdDbObjectIterator>(m_vertices.ids());
 }
 
 OdResult OdDb2dPolyline::erase(bool erasing)

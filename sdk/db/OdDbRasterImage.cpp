@@ -14,13 +14,16 @@ ODRX_DEFINE_MEMBERS(OdDbRasterImageDefReactor, OdDbObject,
 
 OdDbRasterImageDefReactor::OdDbRasterImageDefReactor()
 {
-  initData("IMAGEDEF_REACTOR", {odPair(100, kSub), odPair(90, "2")});
+  static const OdDbDxfPair defaults[] = {odPair(100, kSub), odPair(90, "2")};
+  initData("IMAGEDEF_REACTOR", defaults);
 }
 
 OdDbRasterImageDef::OdDbRasterImageDef()
 {
-  initData("IMAGEDEF", {odPair(100, kSub), odPair(90, "0"), odPair(1, ""), odPair(10, "1.0"), odPair(20, "1.0"),
-                        odPair(11, "1.0"), odPair(21, "1.0"), odPair(280, "1"), odPair(281, "0")});
+  static const OdDbDxfPair defaults[] = {odPair(100, kSub), odPair(90, "0"), odPair(1, ""), odPair(10, "1.0"),
+                                         odPair(20, "1.0"), odPair(11, "1.0"), odPair(21, "1.0"), odPair(280, "1"),
+                                         odPair(281, "0")};
+  initData("IMAGEDEF", defaults);
 }
 
 OdString OdDbRasterImageDef::activeFileName() const
@@ -66,12 +69,14 @@ OdGeVector2d OdDbRasterImageDef::resolutionMMPerPixel() const
 
 OdDbRasterImage::OdDbRasterImage()
 {
-  initData("IMAGE", {odPair(100, "AcDbEntity"), odPair(8, "0"), odPair(100, kSub), odPair(90, "0"), odPair(10, "0.0"),
-                     odPair(20, "0.0"), odPair(30, "0.0"), odPair(11, "1.0"), odPair(21, "0.0"), odPair(31, "0.0"),
-                     odPair(12, "0.0"), odPair(22, "1.0"), odPair(32, "0.0"), odPair(13, "1.0"), odPair(23, "1.0"),
-                     odPair(340, "0"), odPair(70, "7"), odPair(280, "0"), odPair(281, "50"), odPair(282, "50"),
-                     odPair(283, "0"), odPair(71, "1"), odPair(91, "2"), odPair(14, "-0.5"), odPair(24, "-0.5"),
-                     odPair(14, "0.5"), odPair(24, "0.5")});
+  static const OdDbDxfPair defaults[] = {odPair(100, "AcDbEntity"), odPair(8, "0"), odPair(100, kSub), odPair(90, "0"),
+                                         odPair(10, "0.0"), odPair(20, "0.0"), odPair(30, "0.0"), odPair(11, "1.0"),
+                                         odPair(21, "0.0"), odPair(31, "0.0"), odPair(12, "0.0"), odPair(22, "1.0"),
+                                         odPair(32, "0.0"), odPair(13, "1.0"), odPair(23, "1.0"), odPair(340, "0"),
+                                         odPair(70, "7"), odPair(280, "0"), odPair(281, "50"), odPair(282, "50"),
+                                         odPair(283, "0"), odPair(71, "1"), odPair(91, "2"), odPair(14, "-0.5"),
+                                         odPair(24, "-0.5"), odPair(14, "0.5"), odPair(24, "0.5")};
+  initData("IMAGE", defaults);
 }
 
 void OdDbRasterImage::setImageDefId(OdDbObjectId id)

@@ -1,4 +1,4 @@
-// Symbol tables: records by name, in order, and their iterators.
+// Symbol tables: records by name and in order.
 #include "sdk/db/OdDbSymbolTable.h"
 #include "sdk/db/OdDbBlockTableRecord.h"
 #include "sdk/db/OdDbDatabase.h"
@@ -52,43 +52,10 @@ void OdDbSymbolTableRecord::setName(const OdString& name)
     t->invalidateIndex();
 }
 
-void OdDbSymbolTableIterator::start(bool atBeginning, bool skipDeleted)
-{
-  m_skipDeleted = skipDeleted;
-  m_pos = atBeginning ? 0 : int(m_ids.size()) - 1;
-  skip(atBeginning, skipDeleted);
-}
-
-void OdDbSymbolTableIterator::skip(bool forward, bool skipDeleted)
-{
-  while (!done() && skipDeleted && (m_ids[std::size_t(m_pos)].isErased() || !m_ids[std::size_t(m_pos)].isValid()))
-    m_pos += forward ? 1 : -1;
-}
-
-void OdDbSymbolTableIterator::step(bool forward, bool skipDeleted)
-{
-  m_pos += forward ? 1 : -1;
-  skip(forward, skipDeleted);
-}
-
-OdDbSymbolTableRecordPtr OdDbSymbolTableIterator::getRecord(OdDb::OpenMode mode, bool openErased) const
-{
-  return OdDbSymbolTableRecord::cast(getRecordId().openObject(mode, openErased));
-}
-
-bool OdDbSymbolTableIterator::seek(OdDbObjectId id)
-{
-  for (std::size_t i = 0; i < m_ids.size(); ++i)
-    if (m_ids[i] == id) {
-      m_pos = int(i);
-      return true;
-    }
-  return false;
-}
-
 OdDbSymbolTable::OdDbSymbolTable()
 {
-  initData("TABLE", {odPair(2, ""), odPair(100, kSub), odPair(70, "0")});
+  static const OdDbDxfPair defaults[] = {odPair(2, ""), odPair(100, kSub), odPair(70, "0")};
+  initData("TABLE", defaults);
 }
 
 void OdDbSymbolTable::buildIndex() const
@@ -168,10 +135,7 @@ void OdDbSymbolTable::removeRecord(OdDbObjectId id)
 
 OdDbSymbolTableIteratorPtr OdDbSymbolTable::newIterator(bool atBeginning, bool skipDeleted) const
 {
-  auto it = OdRxObjectImpl<OdDbSymbolTableIterator>::createObject();
-  it->m_ids = m_records;
-  it->start(atBeginning, skipDeleted);
-  return it;
+  return OdDbIdIterator::create<OdDbSymbolTableIterator>(m_records, atBeginning, skipDeleted);
 }
 
 OdDbSymbolTableRecord* OdDbSymbolTable::newRecordForTable(const std::string& t)

@@ -1,6 +1,7 @@
 // Symbol tables (layers, linetypes, styles, blocks, ...) and their records.
 #pragma once
 
+#include "sdk/db/OdDbIdIterator.h"
 #include "sdk/db/OdDbObject.h"
 
 #include <QHash>
@@ -30,24 +31,15 @@ protected:
 };
 using OdDbSymbolTableRecordPtr = OdSmartPtr<OdDbSymbolTableRecord>;
 
-// Walks a copy of the table's record list, so that adding records while
-// walking is safe; erased records are skipped unless asked for.
-class OdDbSymbolTableIterator : public OdRxObject
+// Walks the records of a table in their order.
+class OdDbSymbolTableIterator : public OdDbIdIterator
 {
 public:
-  void start(bool atBeginning = true, bool skipDeleted = true);
-  bool done() const { return m_pos < 0 || m_pos >= int(m_ids.size()); }
-  void step(bool forward = true, bool skipDeleted = true);
-  OdDbObjectId getRecordId() const { return done() ? OdDbObjectId() : m_ids[std::size_t(m_pos)]; }
-  OdDbSymbolTableRecordPtr getRecord(OdDb::OpenMode mode = OdDb::kForRead, bool openErased = false) const;
-  bool seek(OdDbObjectId id);
-
-  std::vector<OdDbObjectId> m_ids;
-
-private:
-  void skip(bool forward, bool skipDeleted);
-  int m_pos = 0;
-  bool m_skipDeleted = true;
+  OdDbObjectId getRecordId() const { return currentId(); }
+  OdDbSymbolTableRecordPtr getRecord(OdDb::OpenMode mode = OdDb::kForRead, bool openErased = false) const
+  {
+    return OdDbSymbolTableRecord::cast(currentId().openObject(mode, openErased));
+  }
 };
 using OdDbSymbolTableIteratorPtr = OdSmartPtr<OdDbSymbolTableIterator>;
 

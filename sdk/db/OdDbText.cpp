@@ -30,8 +30,10 @@ OdString recordName(OdDbObjectId id)
 
 OdDbText::OdDbText()
 {
-  initData("TEXT", {odPair(100, "AcDbEntity"), odPair(8, "0"), odPair(100, kSub), odPair(10, "0.0"), odPair(20, "0.0"),
-                    odPair(30, "0.0"), odPair(40, "2.5"), odPair(1, ""), odPair(100, kSub)});
+  static const OdDbDxfPair defaults[] = {odPair(100, "AcDbEntity"), odPair(8, "0"), odPair(100, kSub),
+                                         odPair(10, "0.0"), odPair(20, "0.0"), odPair(30, "0.0"), odPair(40, "2.5"),
+                                         odPair(1, ""), odPair(100, kSub)};
+  initData("TEXT", defaults);
 }
 
 double OdDbText::rotation() const { return getDouble(kSub, 50, 0.0) / kDeg; }
@@ -69,9 +71,11 @@ void OdDbText::setTextStyle(OdDbObjectId id)
 
 OdDbAttributeDefinition::OdDbAttributeDefinition()
 {
-  initData("ATTDEF", {odPair(100, "AcDbEntity"), odPair(8, "0"), odPair(100, kSub), odPair(10, "0.0"), odPair(20, "0.0"),
-                      odPair(30, "0.0"), odPair(40, "2.5"), odPair(1, ""), odPair(100, kDefSub), odPair(280, "0"),
-                      odPair(3, ""), odPair(2, ""), odPair(70, "0")});
+  static const OdDbDxfPair defaults[] = {odPair(100, "AcDbEntity"), odPair(8, "0"), odPair(100, kSub),
+                                         odPair(10, "0.0"), odPair(20, "0.0"), odPair(30, "0.0"), odPair(40, "2.5"),
+                                         odPair(1, ""), odPair(100, kDefSub), odPair(280, "0"), odPair(3, ""),
+                                         odPair(2, ""), odPair(70, "0")};
+  initData("ATTDEF", defaults);
 }
 
 void OdDbAttributeDefinition::setFlag(int bit, bool on)
@@ -82,9 +86,11 @@ void OdDbAttributeDefinition::setFlag(int bit, bool on)
 
 OdDbAttribute::OdDbAttribute()
 {
-  initData("ATTRIB", {odPair(100, "AcDbEntity"), odPair(8, "0"), odPair(100, kSub), odPair(10, "0.0"), odPair(20, "0.0"),
-                      odPair(30, "0.0"), odPair(40, "2.5"), odPair(1, ""), odPair(100, kAttSub), odPair(280, "0"),
-                      odPair(2, ""), odPair(70, "0")});
+  static const OdDbDxfPair defaults[] = {odPair(100, "AcDbEntity"), odPair(8, "0"), odPair(100, kSub),
+                                         odPair(10, "0.0"), odPair(20, "0.0"), odPair(30, "0.0"), odPair(40, "2.5"),
+                                         odPair(1, ""), odPair(100, kAttSub), odPair(280, "0"), odPair(2, ""),
+                                         odPair(70, "0")};
+  initData("ATTRIB", defaults);
 }
 
 void OdDbAttribute::setInvisible(bool on)
@@ -110,9 +116,10 @@ void OdDbAttribute::setAttributeFromBlock(const OdDbAttributeDefinition* def, co
 
 OdDbMText::OdDbMText()
 {
-  initData("MTEXT", {odPair(100, "AcDbEntity"), odPair(8, "0"), odPair(100, kSub), odPair(10, "0.0"), odPair(20, "0.0"),
-                     odPair(30, "0.0"), odPair(40, "2.5"), odPair(41, "0.0"), odPair(71, "1"), odPair(72, "5"),
-                     odPair(1, "")});
+  static const OdDbDxfPair defaults[] = {odPair(100, "AcDbEntity"), odPair(8, "0"), odPair(100, kSub),
+                                         odPair(10, "0.0"), odPair(20, "0.0"), odPair(30, "0.0"), odPair(40, "2.5"),
+                                         odPair(41, "0.0"), odPair(71, "1"), odPair(72, "5"), odPair(1, "")};
+  initData("MTEXT", defaults);
 }
 
 OdString OdDbMText::contents() const

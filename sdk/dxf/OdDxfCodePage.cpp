@@ -1,10 +1,8 @@
-// Code page conversion through glibc's iconv.
+// The iconv names of the code pages that DXF files name.
 #include "sdk/dxf/OdDxfCodePage.h"
 
 #include <algorithm>
-#include <cerrno>
 #include <cctype>
-#include <iconv.h>
 
 std::string OdDxfCodePage::iconvName(const std::string& cp)
 {
@@ -33,43 +31,4 @@ std::string OdDxfCodePage::iconvName(const std::string& cp)
   if (n == "JOHAB") return "JOHAB";
   if (n == "SJIS" || n == "SHIFT_JIS") return "CP932";
   return std::string();
-}
-
-bool OdDxfCodePage::toUtf8(const std::string& encoding, std::string& bytes)
-{
-  iconv_t cd = iconv_open("UTF-8", encoding.c_str());
-  if (cd == iconv_t(-1))
-    return false;
-  std::string out;
-  out.resize(bytes.size() * 2 + 16);
-  char* in = bytes.data();
-  std::size_t inLeft = bytes.size();
-  char* o = out.data();
-  std::size_t outLeft = out.size();
-  while (inLeft > 0) {
-    if (iconv(cd, &in, &inLeft, &o, &outLeft) != std::size_t(-1))
-      break;
-    if (errno == E2BIG) {
-      const std::size_t used = std::size_t(o - out.data());
-      out.resize(out.size() * 2);
-      o = out.data() + used;
-      outLeft = out.size() - used;
-    } else {
-      // A byte that has no meaning in the code page: put U+FFFD, go on.
-      if (outLeft < 3) {
-        const std::size_t used = std::size_t(o - out.data());
-        out.resize(out.size() * 2);
-        o = out.data() + used;
-        outLeft = out.size() - used;
-      }
-      *o++ = char(0xEF); *o++ = char(0xBF); *o++ = char(0xBD);
-      outLeft -= 3;
-      ++in;
-      --inLeft;
-    }
-  }
-  iconv_close(cd);
-  out.resize(std::size_t(o - out.data()));
-  bytes.swap(out);
-  return true;
 }

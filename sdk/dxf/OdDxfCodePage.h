@@ -7,7 +7,4 @@ namespace OdDxfCodePage {
 // The iconv name of a $DWGCODEPAGE value ("ANSI_1252" -> "CP1252"); empty
 // for names that mean UTF-8 or plain ASCII, or that are unknown.
 std::string iconvName(const std::string& dwgCodePage);
-// Converts the bytes to UTF-8; false when iconv does not know the encoding.
-// Bytes that do not convert become U+FFFD, never an error.
-bool toUtf8(const std::string& encoding, std::string& bytes);
 } // namespace OdDxfCodePage

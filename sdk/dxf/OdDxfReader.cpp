@@ -16,6 +16,8 @@
 #include "sdk/db/OdDbSymbolTable.h"
 #include "sdk/db/OdDbText.h"
 
+#include "sdk/kernel/OdLargeBuffer.h"
+
 #include <QFile>
 #include <QFileInfo>
 
@@ -60,9 +62,12 @@ const std::unordered_map<std::string_view, Creator>& objectFactory()
 class Reader
 {
 public:
-  Reader(OdDbDatabase* db, std::string_view text, const std::string& name) : m_db(db), m_tok(text), m_name(name)
+  Reader(OdDbDatabase* db, std::string_view text, const std::string& name, OdDxfTextDecoder* decoder)
+      : m_db(db), m_tok(text), m_name(name)
   {
     m_tok.setName(name);
+    m_tok.setDecoder(decoder);
+    m_stage.resize(256);
   }
 
   void run()
@@ -107,18 +112,22 @@ private:
     throw OdError(eFileInternalErr, OdString::formatted("Cannot read %s: %s (line %d)", m_name, what, m_tok.line()));
   }
 
-  // Pairs up to the next code 0, which stays for the caller.
-  void collect(OdDbDxfPairArray& out)
+  // The pairs of one object, up to the next code 0 (which stays for the
+  // caller), into m_stage; their number.
+  std::size_t collect()
   {
-    out.clear();
+    std::size_t n = 0;
     OdDbDxfPair p;
     while (m_tok.next(p)) {
       if (p.code == 0) {
         m_tok.pushBack();
-        return;
+        return n;
       }
-      if (p.code != 999)
-        out.push_back(p);
+      if (p.code == 999)
+        continue;
+      if (n == m_stage.size())
+        m_stage.resize(n * 2);
+      m_stage[n++] = p;
     }
     fail("the file ends inside a section; it is cut short");
   }
@@ -174,37 +183,41 @@ private:
     fail("the file ends inside the header; it is cut short");
   }
 
-  // Takes handle and owner out of the pairs and puts the object in.
-  OdDbObjectId add(OdDbObject* obj, std::string_view type, OdDbDxfPairArray& pairs, bool isEntity,
-                   OdDbObjectId defaultOwner, std::string* ownerHandle = nullptr)
+  // Puts the object in with the `count` pairs collected, which move to the
+  // drawing's arena, handle and owner taken out.
+  OdDbObjectId add(OdDbObject* obj, std::string_view type, std::size_t count, bool isEntity,
+                   OdDbObjectId defaultOwner, OdDbHandle* ownerHandle = nullptr)
   {
-    OdDbHandle handle;
-    std::string owner;
+    OdDbHandle handle, owner;
+    bool ownerSeen = false;
     const int handleCode = type == "DIMSTYLE" ? 105 : 5;
-    bool inGroup = false, seenMarker = false;
-    OdDbDxfPairArray rest;
-    rest.reserve(pairs.size());
-    for (const OdDbDxfPair& p : pairs) {
+    bool inGroup = false, seenMarker = false, hasMarker = false;
+    OdDbDxfPair* slice = m_db->arena()->allocatePairs(count);
+    std::size_t kept = 0;
+    for (std::size_t i = 0; i < count; ++i) {
+      const OdDbDxfPair& p = m_stage[i];
       if (p.code == 102)
         inGroup = p.value.size() > 0 && p.value[0] == '{';
       if (p.code == 100)
-        seenMarker = true;
+        seenMarker = hasMarker = true;
       if (p.code == 1001)
         seenMarker = true;
       if (p.code == handleCode && handle.isNull() && !seenMarker) {
         handle = OdDbHandle::fromText(p.value);
         continue;
       }
-      if (p.code == 330 && owner.empty() && !inGroup && !seenMarker) {
-        owner = std::string(OdDxf::trim(p.value));
+      if (p.code == 330 && !ownerSeen && !inGroup && !seenMarker) {
+        ownerSeen = true;
+        owner = OdDbHandle::fromText(p.value);
         continue;
       }
-      rest.push_back(p);
+      slice[kept++] = p;
     }
+    OdDbDxfPairArray pairs = OdDbDxfPairArray::borrowing(slice, kept);
     // Files before R13 (and some later writers) leave the markers out.
-    if (OdDxfLegacy::lacksMarkers(rest) && (m_legacy || type != "SEQEND"))
-      rest = OdDxfLegacy::addMarkers(std::string(type), rest, isEntity);
-    obj->setDxfData(std::string(type), std::move(rest), m_db->arena());
+    if (!hasMarker && (m_legacy || type != "SEQEND"))
+      pairs = OdDxfLegacy::addMarkers(std::string(type), pairs, isEntity);
+    obj->setDxfData(std::string(type), std::move(pairs), m_db->arena());
     if (!handle.isNull()) {
       OdDbObjectId existing = m_db->getOdDbObjectId(handle);
       if (existing.isValid())
@@ -223,13 +236,22 @@ private:
     return id;
   }
 
-  OdDbObjectPtr create(std::string_view type, bool isEntity)
+  OdDbObjectPtr createObject(std::string_view type)
   {
-    const auto& f = isEntity ? entityFactory() : objectFactory();
+    const auto& f = objectFactory();
     auto it = f.find(type);
-    if (it != f.end())
-      return it->second();
-    return isEntity ? OdDbObjectPtr(OdDbEntity::createObject()) : OdDbObject::createObject();
+    return it != f.end() ? it->second() : OdDbObject::createObject();
+  }
+
+  // Every maker of the entity factory makes an entity.
+  OdDbEntityPtr createEntity(std::string_view type)
+  {
+    const auto& f = entityFactory();
+    auto it = f.find(type);
+    if (it == f.end())
+      return OdDbEntity::createObject();
+    OdDbObjectPtr o = it->second();
+    return OdDbEntityPtr(static_cast<OdDbEntity*>(o.get()));
   }
 
   void readTables()
@@ -240,15 +262,15 @@ private:
         return;
       if (type != "TABLE")
         fail("a table was expected");
-      collect(m_pairs);
+      const std::size_t count = collect();
       std::string tableName;
-      for (const OdDbDxfPair& p : m_pairs)
-        if (p.code == 2) {
-          tableName = std::string(OdDxf::trim(p.value));
+      for (std::size_t i = 0; i < count; ++i)
+        if (m_stage[i].code == 2) {
+          tableName = std::string(OdDxf::trim(m_stage[i].value));
           break;
         }
       OdDbSymbolTablePtr table = tableFor(tableName);
-      const OdDbObjectId tableId = add(table, "TABLE", m_pairs, false, OdDbObjectId());
+      const OdDbObjectId tableId = add(table, "TABLE", count, false, OdDbObjectId());
       const bool known = std::find(OdDbDatabase::tableOrder().begin(), OdDbDatabase::tableOrder().end(), tableName) !=
                          OdDbDatabase::tableOrder().end();
       if (known && m_db->tableId(tableName).isNull())
@@ -260,10 +282,9 @@ private:
           break;
         if (type == "ENDSEC")
           fail("a table ends without ENDTAB");
-        collect(m_pairs);
         OdSmartPtr<OdDbSymbolTableRecord> rec(OdDbSymbolTable::newRecordForTable(std::string(type)), kOdRxObjAttach);
         OdDbObjectPtr obj = rec.get() ? OdDbObjectPtr(rec) : OdDbObject::createObject();
-        const OdDbObjectId id = add(obj, type, m_pairs, false, tableId);
+        const OdDbObjectId id = add(obj, type, collect(), false, tableId);
         if (rec.get())
           table->appendLoadedRecord(id);
       }
@@ -288,24 +309,25 @@ private:
 
   // One entity and, for block references with attributes and polylines,
   // the sub-entities up to SEQEND.
-  OdDbEntityPtr readEntity(std::string_view type, std::string* ownerHandle)
+  OdDbEntity* readEntity(std::string_view type, OdDbHandle* ownerHandle)
   {
-    collect(m_pairs);
-    OdDbEntityPtr e = OdDbEntity::cast(create(type, true));
-    const OdDbObjectId id = add(e, type, m_pairs, true, OdDbObjectId(), ownerHandle);
+    OdDbEntityPtr e = createEntity(type);
+    const OdDbObjectId id = add(e, type, collect(), true, OdDbObjectId(), ownerHandle);
     OdDbSubEntities* subs = nullptr;
-    if (OdDbBlockReferencePtr ref = OdDbBlockReference::cast(e); ref.get() && ref->getInt(OdDbBlockReference::kSub, 66, 0))
-      subs = &ref->subEntities();
-    else if (OdDb2dPolylinePtr pl = OdDb2dPolyline::cast(e); pl.get())
-      subs = &pl->subEntities();
+    if (type == "INSERT") {
+      if (OdDbBlockReferencePtr ref = OdDbBlockReference::cast(e); ref.get() && ref->getInt(OdDbBlockReference::kSub, 66, 0))
+        subs = &ref->subEntities();
+    } else if (type == "POLYLINE") {
+      if (OdDb2dPolylinePtr pl = OdDb2dPolyline::cast(e); pl.get())
+        subs = &pl->subEntities();
+    }
     if (!subs)
-      return e;
+      return e; // the database holds it
     std::string_view subType;
     while (nextType(subType)) {
       if (subType == "SEQEND") {
-        collect(m_pairs);
         OdDbEntityPtr end = OdDbEntity::createObject();
-        add(end, subType, m_pairs, true, id);
+        add(end, subType, collect(), true, id);
         subs->setSeqEnd(end);
         break;
       }
@@ -314,9 +336,8 @@ private:
         m_tok.pushBack();
         break;
       }
-      collect(m_pairs);
-      OdDbEntityPtr sub = OdDbEntity::cast(create(subType, true));
-      add(sub, subType, m_pairs, true, id);
+      OdDbEntityPtr sub = createEntity(subType);
+      add(sub, subType, collect(), true, id);
       subs->appendLoaded(sub);
     }
     return e;
@@ -332,26 +353,20 @@ private:
         return;
       if (type != "BLOCK")
         fail("a block was expected");
-      collect(m_pairs);
-      OdDbEntityPtr begin = OdDbEntity::createObject();
-      std::string owner;
-      add(begin, type, m_pairs, true, OdDbObjectId(), &owner);
-      std::vector<OdDbEntityPtr> entities;
-      std::vector<std::string> owners;
-      OdDbEntityPtr end;
+      Block block;
+      block.begin = OdDbEntity::createObject();
+      add(block.begin, type, collect(), true, OdDbObjectId(), &block.owner);
       while (nextType(type)) {
         if (type == "ENDBLK") {
-          collect(m_pairs);
-          end = OdDbEntity::createObject();
-          add(end, type, m_pairs, true, OdDbObjectId());
+          block.end = OdDbEntity::createObject();
+          add(block.end, type, collect(), true, OdDbObjectId());
           break;
         }
         if (type == "ENDSEC")
           fail("a block ends without ENDBLK");
-        owners.emplace_back();
-        entities.push_back(readEntity(type, &owners.back()));
+        block.entities.push_back(readEntity(type, nullptr));
       }
-      m_blocks.push_back({begin, end, std::move(entities), owner});
+      m_blocks.push_back(std::move(block));
     }
   }
 
@@ -362,8 +377,8 @@ private:
     while (nextType(type)) {
       if (type == "ENDSEC")
         return;
-      std::string owner;
-      OdDbEntityPtr e = readEntity(type, &owner);
+      OdDbHandle owner;
+      OdDbEntity* e = readEntity(type, &owner);
       m_entities.push_back({e, owner});
     }
   }
@@ -374,20 +389,14 @@ private:
     while (nextType(type)) {
       if (type == "ENDSEC")
         return;
-      collect(m_pairs);
-      std::string owner;
-      OdDbObjectPtr o = create(type, false);
-      const OdDbObjectId id = add(o, type, m_pairs, false, OdDbObjectId(), &owner);
+      OdDbHandle owner;
+      OdDbObjectPtr o = createObject(type);
+      const OdDbObjectId id = add(o, type, collect(), false, OdDbObjectId(), &owner);
       m_objects.push_back({id, owner});
     }
   }
 
-  OdDbObjectId idOf(const std::string& handle)
-  {
-    if (handle.empty() || handle == "0")
-      return OdDbObjectId();
-    return m_db->getOdDbObjectId(OdDbHandle::fromText(handle));
-  }
+  OdDbObjectId idOf(const OdDbHandle& handle) { return m_db->getOdDbObjectId(handle); }
 
   void finish()
   {
@@ -399,6 +408,7 @@ private:
       if (OdDbObjectPtr o = id.openObject(OdDb::kForWrite); o.get())
         o->setOwnerId(idOf(owner));
     std::vector<OdDbObjectId> order;
+    order.reserve(m_objects.size());
     for (const auto& entry : m_objects)
       order.push_back(entry.first);
     m_db->setObjectsOrder(order);
@@ -439,7 +449,7 @@ private:
       rec->setBlockBeginEnd(b.begin, b.end);
       b.begin->setOwnerId(rec->objectId());
       b.end->setOwnerId(rec->objectId());
-      for (const OdDbEntityPtr& e : b.entities) {
+      for (OdDbEntity* e : b.entities) {
         e->setOwnerId(rec->objectId());
         rec->appendLoadedEntity(e->objectId());
       }
@@ -454,17 +464,37 @@ private:
         rec->subAddedToDatabase();
       }
     m_db->initialize();
+    placeEntities();
+    // Table owners and sub-entity owners were set when they were added.
+  }
+
+  // Entities go to the block their owner names, when it is one, else to
+  // model space or (code 67) paper space.
+  void placeEntities()
+  {
     const OdDbObjectId ms = m_db->getModelSpaceId();
     const OdDbObjectId ps = m_db->getPaperSpaceId();
+    OdDbStub* lastOwner = nullptr;
+    OdDbBlockTableRecord* lastBlock = nullptr;
     for (const auto& [e, owner] : m_entities) {
       OdDbObjectId target = idOf(owner);
-      if (OdDbBlockTableRecord::cast(target.openObject()).isNull())
+      // Entities come in runs of one owner: look a block up once per run.
+      OdDbBlockTableRecord* block = nullptr;
+      if (target.stub() && target.stub() == lastOwner) {
+        block = lastBlock;
+      } else {
+        lastOwner = target.stub();
+        lastBlock = OdDbBlockTableRecord::cast(target.openObject()).get();
+        block = lastBlock;
+      }
+      if (!block) {
         target = e->getInt("AcDbEntity", 67, 0) ? ps : ms;
-      OdDbBlockTableRecordPtr rec = OdDbBlockTableRecord::cast(target.openObject(OdDb::kForWrite));
-      e->setOwnerId(target);
-      rec->appendLoadedEntity(e->objectId());
+        block = OdDbBlockTableRecord::cast(target.openObject(OdDb::kForWrite)).get();
+      }
+      block->upgradeOpen();
+      e->setOwnerId(block->objectId());
+      block->appendLoadedEntity(e->objectId());
     }
-    // Table owners and sub-entity owners were set when they were added.
   }
 
   // R12 names the layout blocks $MODEL_SPACE / $PAPER_SPACE; today's are
@@ -482,19 +512,20 @@ public:
   bool m_legacy = false;
 
 private:
+  // Entities and blocks are held by the database; these lists only point.
   struct Block
   {
     OdDbEntityPtr begin, end;
-    std::vector<OdDbEntityPtr> entities;
-    std::string owner;
+    std::vector<OdDbEntity*> entities;
+    OdDbHandle owner;
   };
   OdDbDatabase* m_db;
   OdDxfTokenizer m_tok;
   std::string m_name;
-  OdDbDxfPairArray m_pairs;
+  std::vector<OdDbDxfPair> m_stage; // the pairs of the object being read
   std::vector<Block> m_blocks;
-  std::vector<std::pair<OdDbEntityPtr, std::string>> m_entities;
-  std::vector<std::pair<OdDbObjectId, std::string>> m_objects;
+  std::vector<std::pair<OdDbEntity*, OdDbHandle>> m_entities;
+  std::vector<std::pair<OdDbObjectId, OdDbHandle>> m_objects;
   std::vector<OdDbObjectId> m_extraTables;
   int m_sections = 0;
   std::uint64_t m_nextTemporary = OdDbDatabase::kTemporaryHandles;
@@ -523,7 +554,7 @@ void sniffHeader(std::string_view text, std::string& version, std::string& codep
   }
 }
 
-bool isValidUtf8(const std::string& s)
+bool isValidUtf8(std::string_view s)
 {
   const auto* p = reinterpret_cast<const unsigned char*>(s.data());
   const auto* end = p + s.size();
@@ -552,54 +583,73 @@ bool isValidUtf8(const std::string& s)
   return true;
 }
 
-bool looksLikeDwg(const std::string& bytes)
+bool looksLikeDwg(std::string_view bytes)
 {
   return bytes.size() >= 6 && bytes.compare(0, 2, "AC") == 0 &&
          (bytes.compare(0, 4, "AC10") == 0 || bytes.compare(0, 4, "AC1.") == 0 || bytes.compare(0, 4, "AC2.") == 0);
 }
 
-} // namespace
-
-OdDbDatabasePtr odDxfReadBuffer(std::string bytes, const OdString& nameText)
+// The bytes of a drawing, which may be changed in place, and what keeps them.
+struct DrawingBytes
 {
-  const std::string name = nameText.toUtf8();
-  if (looksLikeDwg(bytes))
+  std::shared_ptr<void> owner;
+  char* data = nullptr;
+  std::size_t size = 0;
+  std::string_view view() const { return std::string_view(data, size); }
+};
+
+DrawingBytes ownedBytes(std::string bytes)
+{
+  auto owner = std::make_shared<std::string>(std::move(bytes));
+  return {owner, owner->data(), owner->size()};
+}
+
+OdDbDatabasePtr readDrawing(DrawingBytes bytes, const std::string& name)
+{
+  if (looksLikeDwg(bytes.view()))
     throw OdError(eUnsupportedFormat,
                   OdString::formatted("Cannot read %s: DWG drawings are not supported; save it as DXF", name));
-  if (OdDxfBinary::isBinary(bytes))
-    bytes = OdDxfBinary::toText(bytes);
+  if (OdDxfBinary::isBinary(bytes.view()))
+    bytes = ownedBytes(OdDxfBinary::toText(bytes.view()));
   // A byte order mark some editors put in front; line ends of old Macs.
-  if (bytes.compare(0, 3, "\xEF\xBB\xBF") == 0)
-    bytes.erase(0, 3);
-  if (bytes.find('\n') == std::string::npos && bytes.find('\r') != std::string::npos)
-    std::replace(bytes.begin(), bytes.end(), '\r', '\n');
-  if (bytes.find('\0') != std::string::npos && bytes.find('\0') < 4096)
+  if (bytes.view().substr(0, 3) == "\xEF\xBB\xBF") {
+    bytes.data += 3;
+    bytes.size -= 3;
+  }
+  if (!std::memchr(bytes.data, '\n', bytes.size) && std::memchr(bytes.data, '\r', bytes.size))
+    std::replace(bytes.data, bytes.data + bytes.size, '\r', '\n');
+  if (std::memchr(bytes.data, 0, std::min<std::size_t>(bytes.size, 4096)))
     throw OdError(eFileInternalErr, OdString::formatted("Cannot read %s: it is no DXF file", name));
+  const std::string_view text = bytes.view();
   std::string version, codepage;
-  sniffHeader(bytes, version, codepage);
+  sniffHeader(text, version, codepage);
+  OdDbDatabasePtr db = OdDbDatabase::createObject();
+  db->arena()->adopt(std::move(bytes.owner));
+  db->setOriginalFileVersion(version);
+  db->setLoading(true);
+  // Objects of drawings as they come take 150 bytes of file or more.
+  db->reserveObjects(text.size() / 150);
   // Before R2007 (AC1021) text is in the drawing's code page, and
   // characters outside it are written as \U+XXXX.
   // Some writers put out R2007 and later in the code page all the same:
   // text that is no UTF-8 is taken as the code page's.
+  std::unique_ptr<OdDxfTextDecoder> decoder;
   const bool old = !version.empty() && version < "AC1021";
-  if (old || version.empty() || !isValidUtf8(bytes)) {
-    const bool high = std::any_of(bytes.begin(), bytes.end(), [](char c) { return (c & 0x80) != 0; });
-    const std::string enc = OdDxfCodePage::iconvName(codepage.empty() ? "ANSI_1252" : codepage);
-    if (high && !enc.empty())
-      OdDxfCodePage::toUtf8(enc, bytes);
-    if (bytes.find("\\U+") != std::string::npos || bytes.find("\\u+") != std::string::npos)
-      bytes = OdDxf::decodeUnicodeEscapes(bytes);
-  }
-  auto buffer = std::make_shared<const std::string>(std::move(bytes));
-  OdDbDatabasePtr db = OdDbDatabase::createObject();
-  db->arena()->adopt(buffer);
-  db->setOriginalFileVersion(version);
-  db->setLoading(true);
-  Reader reader(db, *buffer, name);
+  if (old || version.empty() || !isValidUtf8(text))
+    decoder = std::make_unique<OdDxfTextDecoder>(
+        text, OdDxfCodePage::iconvName(codepage.empty() ? "ANSI_1252" : codepage), *db->arena());
+  Reader reader(db, text, name, decoder.get());
   reader.m_legacy = !version.empty() && version < "AC1012";
   reader.run();
   db->setLoading(false);
   return db;
+}
+
+} // namespace
+
+OdDbDatabasePtr odDxfReadBuffer(std::string bytes, const OdString& name)
+{
+  return readDrawing(ownedBytes(std::move(bytes)), name.toUtf8());
 }
 
 OdDbDatabasePtr odDxfReadFile(const OdString& path)
@@ -614,11 +664,19 @@ OdDbDatabasePtr odDxfReadFile(const OdString& path)
   QFile f(p);
   if (!f.open(QIODevice::ReadOnly))
     throw OdError(eFileAccessErr, OdString::formatted("Cannot read %s: %s", path, f.errorString()));
-  std::string bytes;
-  bytes.resize(std::size_t(f.size()));
-  if (f.size() > 0 && f.read(bytes.data(), f.size()) != f.size())
+  // The text stays in memory as long as the drawing: a large one gets a
+  // large buffer of its own.
+  const std::size_t size = std::size_t(f.size());
+  DrawingBytes bytes;
+  if (size >= OdLargeBuffer::kHugePage) {
+    auto buffer = std::make_shared<OdLargeBuffer>(size);
+    bytes = {buffer, buffer->data(), size};
+  } else {
+    bytes = ownedBytes(std::string(size, '\0'));
+  }
+  if (size > 0 && f.read(bytes.data, qint64(size)) != qint64(size))
     throw OdError(eFileAccessErr, OdString::formatted("Cannot read %s: %s", path, f.errorString()));
-  OdDbDatabasePtr db = odDxfReadBuffer(std::move(bytes), path);
+  OdDbDatabasePtr db = readDrawing(std::move(bytes), path.toUtf8());
   db->setFilename(OdString(info.absoluteFilePath()));
   return db;
 }

@@ -11,13 +11,8 @@ void OdDxfTokenizer::fail(const char* what) const
   throw OdError(eFileInternalErr, OdString::formatted("Cannot read %s: %s (line %d)", m_name, what, m_line));
 }
 
-bool OdDxfTokenizer::next(OdDbDxfPair& pair)
+bool OdDxfTokenizer::slowCode(int& code)
 {
-  if (m_pushed) {
-    m_pushed = false;
-    pair = m_last;
-    return true;
-  }
   // Skip empty lines between pairs (some writers leave one at the end).
   const char* nl = nullptr;
   std::string_view codeLine;
@@ -32,37 +27,26 @@ bool OdDxfTokenizer::next(OdDbDxfPair& pair)
     if (!codeLine.empty())
       break;
   }
-  int code = 0;
   const char* b = codeLine.data();
   if (*b == '+')
     ++b;
   const auto r = std::from_chars(b, codeLine.data() + codeLine.size(), code);
   if (r.ec != std::errc() || r.ptr != codeLine.data() + codeLine.size())
     fail("a group code is no number");
-  if (m_p >= m_end && !nl)
+  if (!nl)
     fail("the file ends in the middle of a pair; it is cut short");
-  nl = static_cast<const char*>(std::memchr(m_p, '\n', std::size_t(m_end - m_p)));
-  const char* valueEnd = nl ? nl : m_end;
-  std::string_view value(m_p, std::size_t(valueEnd - m_p));
-  if (!value.empty() && value.back() == '\r')
-    value.remove_suffix(1);
-  ++m_line;
-  m_p = nl ? nl + 1 : m_end;
-  pair.code = code;
-  pair.value = value;
-  m_last = pair;
   return true;
 }
 
 const char OdDxfBinary::kSentinel[22] = {'A', 'u', 't', 'o', 'C', 'A', 'D', ' ', 'B', 'i', 'n',
                                          'a', 'r', 'y', ' ', 'D', 'X', 'F', '\r', '\n', '\x1a', '\0'};
 
-bool OdDxfBinary::isBinary(const std::string& bytes)
+bool OdDxfBinary::isBinary(std::string_view bytes)
 {
   return bytes.size() >= 22 && std::memcmp(bytes.data(), kSentinel, 22) == 0;
 }
 
-std::string OdDxfBinary::toText(const std::string& bytes)
+std::string OdDxfBinary::toText(std::string_view bytes)
 {
   std::string out;
   out.reserve(bytes.size() * 2);

@@ -6,23 +6,59 @@
 #include "sdk/db/OdDbDictionary.h"
 #include "sdk/db/OdDbSymbolTable.h"
 
+#include "sdk/kernel/OdLargeBuffer.h"
 #include "sdk/kernel/OdSafeFile.h"
 
+#include <algorithm>
 #include <charconv>
+#include <cstdint>
 #include <cstring>
 #include <unordered_set>
 
 namespace {
+
+// True when the text holds a line feed or a carriage return. Eight bytes
+// at a time: only a word with a control character gets a closer look.
+bool hasLineBreak(std::string_view text)
+{
+  const char* p = text.data();
+  const char* end = p + text.size();
+  for (; end - p >= 8; p += 8) {
+    std::uint64_t w;
+    std::memcpy(&w, p, 8);
+    if (((w - 0x0E0E0E0E0E0E0E0Eull) & ~w & 0x8080808080808080ull) == 0)
+      continue;
+    for (int k = 0; k < 8; ++k)
+      if (p[k] == '\n' || p[k] == '\r')
+        return true;
+  }
+  for (; p < end; ++p)
+    if (*p == '\n' || *p == '\r')
+      return true;
+  return false;
+}
+
+// Upper-case hex of a handle, into `buf`; the text written.
+std::string_view hexText(std::uint64_t value, char (&buf)[17])
+{
+  char* end = buf + sizeof buf;
+  char* p = end;
+  do {
+    *--p = "0123456789ABCDEF"[value & 15];
+    value >>= 4;
+  } while (value);
+  return std::string_view(p, std::size_t(end - p));
+}
 
 class Writer
 {
 public:
   explicit Writer(OdDbDatabase* db) : m_db(db) {}
 
-  std::string run()
+  // The DXF text of the drawing; data() and size() give it.
+  void run()
   {
     prepare();
-    m_out.reserve(1 << 20);
     writeHeader();
     writeClasses();
     writeTables();
@@ -36,49 +72,84 @@ public:
       endsec();
     }
     pair(0, "EOF");
-    return std::move(m_out);
   }
+  const char* data() const { return m_text.data(); }
+  std::size_t size() const { return m_size; }
 
 private:
-  // What a complete R2018 drawing needs, and every application name used
-  // by extended data registered.
+  // What a complete R2018 drawing needs, every application name used by
+  // extended data registered, and room for the whole text.
   void prepare()
   {
     m_db->initialize();
     std::unordered_set<std::string> apps;
-    for (const OdDbObjectId& id : m_db->allObjectIds()) {
-      OdDbObjectPtr o = id.openObject();
-      if (o.isNull())
-        continue;
-      m_usedTypes.insert(o->dxfType());
-      for (const OdDbDxfPair& p : o->dxfPairs())
-        if (p.code == 1001)
+    std::size_t bytes = 1 << 16;
+    m_db->forEachObject([&](const OdDbObject* o) {
+      if (!m_usedTypes.count(o->dxfType()))
+        m_usedTypes.insert(o->dxfType());
+      bytes += 32;
+      for (const OdDbDxfPair& p : o->dxfPairs()) {
+        bytes += 5 + p.value.size();
+        if (p.code == 1001 && !apps.count(std::string(p.value)))
           apps.emplace(p.value);
-    }
+      }
+    });
     for (const std::string& a : apps)
       m_db->newRegApp(OdDxf::toOdString(a));
+    // A little over what the pairs take, so that the text is written into
+    // one block, never moved while it grows.
+    grow(bytes + bytes / 16);
+  }
+
+  void grow(std::size_t capacity) { m_text.resize(capacity); }
+
+  // Room for `n` more bytes; where they go.
+  char* room(std::size_t n)
+  {
+    if (m_text.size() - m_size < n)
+      grow(std::max(m_text.size() * 2, m_size + n));
+    return m_text.data() + m_size;
   }
 
   void pair(int code, std::string_view value)
   {
-    char buf[16];
-    auto r = std::to_chars(buf, buf + sizeof buf, code);
-    const std::size_t n = std::size_t(r.ptr - buf);
-    if (n < 3)
-      m_out.append(3 - n, ' ');
-    m_out.append(buf, n);
-    m_out += '\n';
-    if (value.find_first_of("\r\n") == std::string_view::npos) {
-      m_out.append(value);
+    // Carets may double the value; the code takes at most eleven bytes.
+    char* p = room(value.size() * 2 + 16);
+    if (code >= 0 && code < 1000) {
+      // Codes stand right-aligned in three columns.
+      p[0] = code >= 100 ? char('0' + code / 100) : ' ';
+      p[1] = code >= 10 ? char('0' + code / 10 % 10) : ' ';
+      p[2] = char('0' + code % 10);
+      p += 3;
+    } else {
+      char buf[16];
+      const auto r = std::to_chars(buf, buf + sizeof buf, code);
+      const std::size_t n = std::size_t(r.ptr - buf);
+      for (std::size_t k = n; k < 3; ++k)
+        *p++ = ' ';
+      std::memcpy(p, buf, n);
+      p += n;
+    }
+    *p++ = '\n';
+    if (!hasLineBreak(value)) {
+      std::memcpy(p, value.data(), value.size());
+      p += value.size();
     } else {
       // A line break inside a value would end it: use the caret form.
       for (char c : value) {
-        if (c == '\n') m_out += "^J";
-        else if (c == '\r') m_out += "^M";
-        else m_out += c;
+        if (c == '\n') {
+          *p++ = '^';
+          *p++ = 'J';
+        } else if (c == '\r') {
+          *p++ = '^';
+          *p++ = 'M';
+        } else {
+          *p++ = c;
+        }
       }
     }
-    m_out += '\n';
+    *p++ = '\n';
+    m_size = std::size_t(p - m_text.data());
   }
 
   void section(std::string_view name)
@@ -155,8 +226,9 @@ private:
   // where the format has it: after the 102 groups, before the first marker.
   void writeObject(const OdDbObject* o)
   {
+    char hex[17];
     pair(0, o->dxfType());
-    pair(o->dxfType() == "DIMSTYLE" ? 105 : 5, o->getDbHandle().text());
+    pair(o->dxfType() == "DIMSTYLE" ? 105 : 5, hexText(o->getDbHandle().value(), hex));
     const OdDbDxfPairArray& pairs = o->dxfPairs();
     std::size_t i = 0;
     // Reactor and extension dictionary groups come before the owner.
@@ -171,7 +243,7 @@ private:
       }
     }
     const OdDbObjectId owner = o->ownerId();
-    pair(330, owner.isNull() ? std::string("0") : owner.getHandle().text());
+    pair(330, owner.isNull() ? std::string_view("0") : hexText(owner.getHandle().value(), hex));
     for (; i < pairs.size(); ++i)
       pair(pairs[i].code, pairs[i].value);
   }
@@ -251,7 +323,8 @@ private:
   }
 
   OdDbDatabase* m_db;
-  std::string m_out;
+  OdLargeBuffer m_text; // its size is the room there is; m_size is what is used
+  std::size_t m_size = 0;
   std::unordered_set<std::string> m_usedTypes;
 };
 
@@ -267,7 +340,9 @@ std::string odDxfWriteBuffer(OdDbDatabase* db)
 {
   if (!db)
     throw OdError(eNullPtr, "no drawing to write");
-  return Writer(db).run();
+  Writer w(db);
+  w.run();
+  return std::string(w.data(), w.size());
 }
 
 void odDxfWriteFile(OdDbDatabase* db, const OdString& path)
@@ -276,7 +351,10 @@ void odDxfWriteFile(OdDbDatabase* db, const OdString& path)
   if (path.qstring().endsWith(".dwg", Qt::CaseInsensitive))
     throw OdError(eUnsupportedFormat,
                   OdString::formatted("Cannot write %s: DWG drawings are not supported; save it as DXF", path));
-  const std::string text = odDxfWriteBuffer(db);
+  if (!db)
+    throw OdError(eNullPtr, "no drawing to write");
+  Writer text(db);
+  text.run();
   try {
     odWriteFileSafely(path, [&](OdStreamBuf& stream) {
       constexpr std::size_t kChunk = std::size_t(1) << 30;

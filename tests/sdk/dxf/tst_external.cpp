@@ -297,7 +297,7 @@ TEST(ExternalDrawings, hatchesRewrittenFromTheirValues_readTheSame)
       EXPECT_EQ(after.patternName, before.patternName);
       EXPECT_EQ(after.gradientName, before.gradientName);
       EXPECT_EQ(after.seeds, before.seeds);
-      const std::vector<OdDbDxfPair> once = h->dxfPairs();
+      const OdDbDxfPairArray once = h->dxfPairs();
       h->setData(h->data());
       EXPECT_EQ(h->dxfPairs().size(), once.size()) << "a second rewrite changes nothing";
     }
