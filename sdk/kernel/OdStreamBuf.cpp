@@ -5,7 +5,6 @@
 #include <QFileInfo>
 #include <QUuid>
 
-#include <algorithm>
 #include <cstring>
 
 ODRX_NO_CONS_DEFINE_MEMBERS(OdStreamBuf, OdRxObject)
