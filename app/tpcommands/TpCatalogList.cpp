@@ -106,7 +106,9 @@ void saveCatalogs(HostCommandOutput& out)
       out.print("The catalog \"%s\" was not saved to %s.\n", catalog->displayName(), path);
     }
   }
-  if (failed == 0)
+  if (failed + saved == 0)
+    out.print("%s\n", OdString("There is no catalog to save."));
+  else if (failed == 0)
     out.print("%s\n", OdString("Catalogs saved."));
   else
     out.print("%d of %d catalogs could not be saved.\n", failed, failed + saved);
