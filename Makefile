@@ -4,12 +4,12 @@ SHELL := /bin/bash
 BUILD ?= build
 PACKAGES := cmake ninja-build g++ pkg-config qt6-base-dev qt6-image-formats-plugins \
             libgl-dev libtinyxml-dev libboost-dev libgif-dev libgtest-dev libgmock-dev \
-            googletest libbenchmark-dev python3-ezdxf fonts-dejavu-core ccache xvfb xauth \
-            util-linux
+            googletest libbenchmark-dev python3-ezdxf python3-matplotlib fonts-dejavu-core ccache \
+            xvfb xauth librsvg2-bin util-linux
 SUDO := $(shell [ "$$(id -u)" = 0 ] || echo sudo)
 JOBS ?= $(shell nproc)
 
-.PHONY: all deps configure build run test bench clean
+.PHONY: all deps configure build run test bench screenshots clean
 
 all: build
 
@@ -28,14 +28,26 @@ configure: deps $(BUILD)/build.ninja
 build: configure
 	cmake --build $(BUILD) -j $(JOBS)
 
+# The desktop program where there is a display to show it on, the console
+# host otherwise.
 run: build
-	$(BUILD)/bin/verdani-console
+	@if [ -n "$$DISPLAY$$WAYLAND_DISPLAY" ]; then \
+	  echo "A display is there: starting the desktop host, verdani."; \
+	  $(BUILD)/bin/verdani; \
+	else \
+	  echo "No display (neither DISPLAY nor WAYLAND_DISPLAY is set): starting the console host, verdani-console."; \
+	  $(BUILD)/bin/verdani-console; \
+	fi
 
 test: build
 	cd $(BUILD) && QT_QPA_PLATFORM=offscreen ctest --output-on-failure -j $(JOBS)
 
 bench: build
 	cmake --build $(BUILD) --target benchmarks -j $(JOBS)
+
+# The README's pictures of the desktop program, taken in a virtual display.
+screenshots: build
+	doc/screenshots.sh $(BUILD)
 
 clean:
 	rm -rf $(BUILD)

@@ -15,6 +15,8 @@
 #include "app/core/HostProfileImpl.h"
 #include "app/core/HostServicesImpl.h"
 #include "app/core/HostStdDirsImpl.h"
+#include "app/core/HostSysVars.h"
+#include "app/core/HostVariableStoreImpl.h"
 #include "sdk/kernel/OdRxModule.h"
 
 #include <exception>
@@ -52,6 +54,8 @@ HostApp::HostApp()
       m_documents(std::make_unique<HostDocumentManager>(*this)),
       m_commandLine(std::make_unique<HostCommandLine>(*this)),
       m_services(std::make_unique<HostServicesImpl>(*this)),
+      m_sysVars(std::make_unique<HostSysVarsImpl>(*this)),
+      m_variableStore(std::make_unique<HostVariableStoreImpl>()),
       m_profile(CRkPtr<HostProfileImpl>::attach(new HostProfileImpl(*this))),
       m_stdDirs(CRkPtr<HostStdDirsImpl>::attach(new HostStdDirsImpl(*this))),
       m_interior(CRkPtr<HostAppInteriorImpl>::attach(new HostAppInteriorImpl)),
@@ -107,6 +111,8 @@ void HostApp::start(const HostStartOptions& options)
     return;
   m_options = options;
   m_exitRequested = false;
+  m_sysVars->reset();
+  m_variableStore->reset();
   HostBuiltinCommands::registerAll();
   if (options.messageBoxesOnCommandLine) {
     hostSetMessageBoxHandler(&commandLineMessageBox);
@@ -121,6 +127,7 @@ void HostApp::start(const HostStartOptions& options)
     onConfigChange(folder, name, value);
   });
   m_running = true;
+  hostSetContext(m_services.get(), this);
 
   if (!options.settings.empty()) {
     HostConfig::Batch batch(*m_config);
@@ -170,6 +177,7 @@ void HostApp::shutdown()
   m_completion->clear();
   m_appProp->clear();
   m_config.reset();
+  hostSetContext(nullptr, nullptr);
   if (m_ownMessageBoxes) {
     hostSetMessageBoxHandler(nullptr);
     m_ownMessageBoxes = false;

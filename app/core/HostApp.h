@@ -23,6 +23,8 @@ class HostEditorEventsImpl;
 class HostProfileImpl;
 class HostServicesImpl;
 class HostStdDirsImpl;
+class HostSysVarsImpl;
+class HostVariableStoreImpl;
 
 struct HostStartOptions
 {
@@ -100,6 +102,8 @@ public:
   HostAppPropImpl& appProp() { return *m_appProp.get(); }
   HostStdDirsImpl& stdDirs() { return *m_stdDirs.get(); }
   HostCmdFactoryImpl& cmdFactory() { return *m_cmdFactory.get(); }
+  HostSysVarsImpl& sysVars() { return *m_sysVars; }
+  HostVariableStoreImpl& variableStore() { return *m_variableStore; }
   const std::vector<OdString>& loadedModules() const { return m_loadedModules; }
 
   // IApp: answers IProfile, IAppProp, IStdDirs, IAppInterior, ICmdFactory.
@@ -129,6 +133,8 @@ private:
   std::unique_ptr<HostDocumentManager> m_documents;
   std::unique_ptr<HostCommandLine> m_commandLine;
   std::unique_ptr<HostServicesImpl> m_services;
+  std::unique_ptr<HostSysVarsImpl> m_sysVars;
+  std::unique_ptr<HostVariableStoreImpl> m_variableStore;
   CRkPtr<HostProfileImpl> m_profile;
   CRkPtr<HostStdDirsImpl> m_stdDirs;
   CRkPtr<HostAppInteriorImpl> m_interior;

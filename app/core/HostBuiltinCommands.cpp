@@ -6,6 +6,10 @@
 #include "app/core/HostCommandLine.h"
 #include "app/core/HostCommandTable.h"
 #include "app/core/HostDocumentManager.h"
+#include "app/core/HostDrawCommands.h"
+#include "app/core/HostEditCommands.h"
+#include "app/core/HostHatchCommands.h"
+#include "app/core/HostInsertCommands.h"
 #include "app/core/HostOutput.h"
 
 #include "sdk/dxf/OdDxf.h"
@@ -195,6 +199,10 @@ void registerAll()
   add("SaveAsDocument", &saveAsDocument);
   add("Exit", &exitHost);
   add("SETDIR", &setDir);
+  HostDrawCommands::registerCommands();
+  HostEditCommands::registerCommands();
+  HostInsertCommands::registerCommands();
+  HostHatchCommands::registerCommands();
 }
 
 } // namespace HostBuiltinCommands

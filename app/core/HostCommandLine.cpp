@@ -2,8 +2,11 @@
 #include "app/core/HostCommandLine.h"
 
 #include "app/core/HostApp.h"
+#include "app/core/HostDocumentManager.h"
 #include "app/core/HostEditorEventsImpl.h"
+#include "app/core/HostInputParser.h"
 #include "app/core/HostOutput.h"
+#include "app/core/HostUndo.h"
 
 #include <exception>
 
@@ -33,7 +36,50 @@ OdString HostCommandLine::activeCommand() const
 void HostCommandLine::type(const OdString& text)
 {
   m_queue.append(text);
+  if (m_prompt.kind != HostPrompt::kNone)
+    notifyInput();
   pump();
+}
+
+void HostCommandLine::notifyInput()
+{
+  if (m_notifier)
+    m_notifier();
+}
+
+bool HostCommandLine::submitPoint(const OdGePoint3d& point)
+{
+  if (!m_prompt.takesPoint())
+    return false;
+  HostInput input;
+  input.kind = HostInput::kPoint;
+  input.point = point;
+  m_picked = input;
+  notifyInput();
+  return true;
+}
+
+bool HostCommandLine::submitEntity(const OdDbObjectId& entity)
+{
+  if (!m_prompt.takesEntity() || entity.isNull())
+    return false;
+  HostInput input;
+  input.kind = HostInput::kEntity;
+  input.entity = entity;
+  m_picked = input;
+  notifyInput();
+  return true;
+}
+
+bool HostCommandLine::inputWaiting() const
+{
+  return m_prompt.kind != HostPrompt::kNone && (m_picked || m_queue.hasInput(m_prompt.allowsSpaces()));
+}
+
+void HostCommandLine::endUndoSteps()
+{
+  for (HostDocumentImpl* document : m_app.documents().documents())
+    document->undoJournal().endStep();
 }
 
 void HostCommandLine::pump()
@@ -84,6 +130,13 @@ HostCommandLine::Result HostCommandLine::runCommand(const HostCommand& command, 
 {
   const OdString name = command.globalName;
   HostEditorEventsImpl& events = m_app.editorEvents();
+  const bool outermost = m_running.empty();
+  for (HostDocumentImpl* document : m_app.documents().documents()) {
+    if (outermost)
+      document->undoJournal().beginStep(name);
+    else
+      document->undoJournal().innerCommand(name);
+  }
   m_running.push_back(Frame{name, false});
   events.commandWillStart(name);
 
@@ -117,6 +170,10 @@ HostCommandLine::Result HostCommandLine::runCommand(const HostCommand& command, 
     events.commandFailed(name);
     break;
   }
+  // The step closes after the events, so that what reactors put back when
+  // a command ends (a tool's current layer) is taken back with it.
+  if (outermost)
+    endUndoSteps();
   // Text the command sent to the command line runs now that it is over.
   if (!isCommandActive())
     pump();
@@ -131,29 +188,69 @@ void HostCommandLine::markCancelled()
 
 bool HostCommandLine::getString(const OdString& prompt, OdString& out, bool allowSpaces)
 {
-  out = OdString();
+  HostPrompt asked;
+  asked.kind = allowSpaces ? HostPrompt::kText : HostPrompt::kString;
+  asked.message = prompt;
+  const HostInput input = read(asked);
+  out = input.text;
+  return input.kind == HostInput::kText;
+}
+
+HostInput HostCommandLine::read(const HostPrompt& prompt)
+{
+  HostInput answer; // a cancel unless something better comes
   if (m_app.exitRequested()) {
     markCancelled();
-    return false;
+    return answer;
   }
-  OdString input;
-  HostInputQueue::Kind kind = m_queue.read(allowSpaces, input);
-  while (kind == HostInputQueue::kNone) {
-    OdString line;
-    if (!m_provider || !m_provider(prompt, line)) {
-      kind = HostInputQueue::kCancel; // the end of input cancels what waits for it
+  // A prompt inside a prompt (a reactor that asks) gets the outer one back.
+  struct Restore
+  {
+    HostPrompt& slot;
+    HostPrompt saved;
+    ~Restore() { slot = saved; }
+  } restore{m_prompt, m_prompt};
+  m_prompt = prompt;
+  m_picked.reset();
+  const bool spaces = prompt.allowsSpaces();
+  for (;;) {
+    if (m_picked) {
+      answer = *m_picked;
+      m_picked.reset();
       break;
     }
+    OdString text;
+    const HostInputQueue::Kind kind = m_queue.read(spaces, text);
+    if (kind == HostInputQueue::kText) {
+      answer.kind = HostInput::kText;
+      answer.text = text;
+      break;
+    }
+    if (kind == HostInputQueue::kCancel)
+      break;
+    // Nothing waits: the desktop waits for events, the console reads on.
+    if (m_waiter) {
+      if (!m_waiter())
+        break;
+      continue;
+    }
+    OdString line;
+    if (!m_provider || !m_provider(prompt.message, line))
+      break; // the end of input cancels what waits for it
     m_queue.append(line + "\n");
-    kind = m_queue.read(allowSpaces, input);
   }
-  if (kind == HostInputQueue::kCancel) {
+  if (answer.kind == HostInput::kCancel) {
     m_app.output().printLine(kCancelText);
     markCancelled();
-    return false;
+    return answer;
   }
-  if (m_echo)
-    m_app.output().printLine(prompt + input);
-  out = input;
-  return true;
+  if (m_echo) {
+    OdString shown = answer.text;
+    if (answer.kind == HostInput::kPoint)
+      shown = HostInputParser::formatPoint(answer.point);
+    else if (answer.kind == HostInput::kEntity)
+      shown = answer.entity.getHandle().ascii();
+    m_app.output().printLine(prompt.message + shown);
+  }
+  return answer;
 }

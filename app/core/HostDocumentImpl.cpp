@@ -3,12 +3,22 @@
 
 #include "app/core/HostApp.h"
 #include "app/core/HostCommandLine.h"
+#include "app/core/HostDocumentManager.h"
+#include "app/core/HostEditorEventsImpl.h"
 #include "app/core/HostOutput.h"
 
 HostDocumentImpl::HostDocumentImpl(HostApp& app, const OdString& name, const OdString& filePath,
                                    OdDbDatabasePtr database)
-    : m_app(app), m_name(name), m_filePath(filePath), m_database(std::move(database))
+    : m_app(app), m_name(name), m_filePath(filePath), m_database(std::move(database)), m_undo(m_database.get())
 {
+  if (m_database.get())
+    m_database->addReactor(this);
+}
+
+HostDocumentImpl::~HostDocumentImpl()
+{
+  if (m_database.get())
+    m_database->removeReactor(this);
 }
 
 void HostDocumentImpl::setFilePath(const OdString& filePath, const OdString& name)
@@ -42,4 +52,37 @@ void HostDocumentImpl::unlockDocument()
 {
   if (m_lockDepth > 0 && --m_lockDepth == 0)
     m_lockName = OdString();
+}
+
+bool HostDocumentImpl::canUndo() const
+{
+  return !m_app.commandLine().isCommandActive() && m_undo.canUndo();
+}
+
+bool HostDocumentImpl::canRedo() const
+{
+  return !m_app.commandLine().isCommandActive() && m_undo.canRedo();
+}
+
+bool HostDocumentImpl::runEditCommand(const char* name)
+{
+  if (m_app.documents().current() != this && !m_app.documents().makeCurrent(this))
+    return false;
+  return m_app.commandLine().runCommandByName(name) == HostCommandLine::kEnded;
+}
+
+bool HostDocumentImpl::undo()
+{
+  return canUndo() && runEditCommand("U");
+}
+
+bool HostDocumentImpl::redo()
+{
+  return canRedo() && runEditCommand("REDO");
+}
+
+void HostDocumentImpl::headerSysVarChanged(const OdDbDatabase* database, const OdString& name)
+{
+  OdDbDatabase* db = const_cast<OdDbDatabase*>(database);
+  m_app.editorEvents().fire([&](HostEditorReactor* r) { r->sysVarChanged(db, name); });
 }

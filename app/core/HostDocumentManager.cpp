@@ -1,6 +1,9 @@
 // Opening and closing documents.
 #include "app/core/HostDocumentManager.h"
 
+#include "app/core/HostApp.h"
+#include "app/core/HostEditorEventsImpl.h"
+
 #include "sdk/dxf/OdDxf.h"
 
 #include <QFileInfo>
@@ -12,8 +15,10 @@ HostDocumentImpl* HostDocumentManager::newDocument()
   const OdString name = OdString::formatted("Drawing%d.dxf", ++m_newCount);
   OdDbDatabasePtr database = odDbCreateDatabase();
   m_documents.push_back(std::make_unique<HostDocumentImpl>(m_app, name, OdString(), database));
-  m_current = m_documents.back().get();
-  return m_current;
+  HostDocumentImpl* document = m_documents.back().get();
+  m_app.editorEvents().fireDocManager([&](HostDocManagerReactor* r) { r->documentCreated(document); });
+  makeCurrent(document);
+  return document;
 }
 
 HostDocumentImpl* HostDocumentManager::openDocument(const OdString& filePath, OdString& error)
@@ -41,10 +46,12 @@ HostDocumentImpl* HostDocumentManager::openDocument(const OdString& filePath, Od
   // A file already open is made current rather than opened twice.
   for (const auto& d : m_documents) {
     if (d->filePath() == path) {
-      m_current = d.get();
-      return m_current;
+      makeCurrent(d.get());
+      return d.get();
     }
   }
+  HostEditorEventsImpl& events = m_app.editorEvents();
+  events.fire([&](HostEditorReactor* r) { r->beginDwgOpen(path); });
   OdDbDatabasePtr database;
   try {
     database = odDxfReadFile(path);
@@ -52,9 +59,25 @@ HostDocumentImpl* HostDocumentManager::openDocument(const OdString& filePath, Od
     error = e.description();
     return nullptr;
   }
+  events.fire([&](HostEditorReactor* r) { r->endDwgOpen(path); });
   m_documents.push_back(std::make_unique<HostDocumentImpl>(m_app, OdString(info.fileName()), path, database));
-  m_current = m_documents.back().get();
-  return m_current;
+  HostDocumentImpl* document = m_documents.back().get();
+  events.fireDocManager([&](HostDocManagerReactor* r) { r->documentCreated(document); });
+  makeCurrent(document);
+  return document;
+}
+
+// The events of a document that goes, before and after it is destroyed.
+void HostDocumentManager::destroy(std::unique_ptr<HostDocumentImpl> document)
+{
+  HostEditorEventsImpl& events = m_app.editorEvents();
+  OdDbDatabase* database = document->database();
+  events.fire([&](HostEditorReactor* r) { r->beginDocClose(database); });
+  events.fire([&](HostEditorReactor* r) { r->docCloseWillStart(database); });
+  events.fireDocManager([&](HostDocManagerReactor* r) { r->documentToBeDestroyed(document.get()); });
+  events.fire([](HostEditorReactor* r) { r->DestroyWillStart(); });
+  document.reset();
+  events.fire([](HostEditorReactor* r) { r->DestroyFinished(); });
 }
 
 bool HostDocumentManager::closeDocument(HostDocumentImpl* document)
@@ -65,15 +88,23 @@ bool HostDocumentManager::closeDocument(HostDocumentImpl* document)
   // Destroyed only once the list and the current document are right again.
   std::unique_ptr<HostDocumentImpl> gone = std::move(*it);
   m_documents.erase(it);
-  if (m_current == document)
-    m_current = m_documents.empty() ? nullptr : m_documents.back().get();
+  const bool wasCurrent = m_current == document;
+  if (wasCurrent)
+    m_current = nullptr;
+  destroy(std::move(gone));
+  if (wasCurrent && !m_documents.empty())
+    makeCurrent(m_documents.back().get());
   return true;
 }
 
 void HostDocumentManager::closeAll()
 {
   m_current = nullptr;
-  m_documents.clear();
+  while (!m_documents.empty()) {
+    std::unique_ptr<HostDocumentImpl> gone = std::move(m_documents.back());
+    m_documents.pop_back();
+    destroy(std::move(gone));
+  }
   m_newCount = 0;
 }
 
@@ -81,7 +112,10 @@ bool HostDocumentManager::makeCurrent(HostDocumentImpl* document)
 {
   for (const auto& d : m_documents) {
     if (d.get() == document) {
-      m_current = document;
+      if (m_current != document) {
+        m_current = document;
+        m_app.editorEvents().fireDocManager([&](HostDocManagerReactor* r) { r->documentActivated(document); });
+      }
       return true;
     }
   }

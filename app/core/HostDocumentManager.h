@@ -1,4 +1,5 @@
-// The open documents of the host and which one is current.
+// The open documents of the host and which one is current, with the events
+// of their opening, activation and closing.
 #pragma once
 
 #include "app/core/HostDocumentImpl.h"
@@ -23,10 +24,14 @@ public:
   void closeAll();
 
   HostDocumentImpl* current() const { return m_current; }
+  // Makes an open document the current one; documentActivated is told
+  // when the current one changes.
   bool makeCurrent(HostDocumentImpl* document);
   std::vector<HostDocumentImpl*> documents() const;
 
 private:
+  void destroy(std::unique_ptr<HostDocumentImpl> document);
+
   HostApp& m_app;
   std::vector<std::unique_ptr<HostDocumentImpl>> m_documents; // in the order opened
   HostDocumentImpl* m_current = nullptr;                      // one of m_documents, or null

@@ -4,10 +4,20 @@
 #include <algorithm>
 #include <exception>
 
+namespace {
+
+template <class R>
+void addOnce(std::vector<R*>& list, R* reactor)
+{
+  if (reactor && std::find(list.begin(), list.end(), reactor) == list.end())
+    list.push_back(reactor);
+}
+
+} // namespace
+
 void HostEditorEventsImpl::addReactor(HostEditorReactor* reactor)
 {
-  if (reactor && !contains(reactor))
-    m_reactors.push_back(reactor);
+  addOnce(m_reactors, reactor);
 }
 
 void HostEditorEventsImpl::removeReactor(HostEditorReactor* reactor)
@@ -15,19 +25,28 @@ void HostEditorEventsImpl::removeReactor(HostEditorReactor* reactor)
   std::erase(m_reactors, reactor);
 }
 
-bool HostEditorEventsImpl::contains(HostEditorReactor* reactor) const
+void HostEditorEventsImpl::addDocManagerReactor(HostDocManagerReactor* reactor)
 {
-  return std::find(m_reactors.begin(), m_reactors.end(), reactor) != m_reactors.end();
+  addOnce(m_docReactors, reactor);
 }
 
-void HostEditorEventsImpl::fire(const std::function<void(HostEditorReactor*)>& event)
+void HostEditorEventsImpl::removeDocManagerReactor(HostDocManagerReactor* reactor)
 {
-  const std::vector<HostEditorReactor*> round = m_reactors;
-  for (HostEditorReactor* reactor : round) {
-    if (!contains(reactor))
+  std::erase(m_docReactors, reactor);
+}
+
+template <class R>
+void HostEditorEventsImpl::fireAll(std::vector<R*>& reactors, const std::function<void(R*)>& event)
+{
+  const std::vector<R*> round = reactors;
+  for (R* reactor : round) {
+    if (std::find(reactors.begin(), reactors.end(), reactor) == reactors.end())
       continue;
     try {
       event(reactor);
+    } catch (const OdError& e) {
+      if (m_onError)
+        m_onError(e.description());
     } catch (const std::exception& e) {
       if (m_onError)
         m_onError(OdString(e.what()));
@@ -36,6 +55,16 @@ void HostEditorEventsImpl::fire(const std::function<void(HostEditorReactor*)>& e
         m_onError(OdString("unknown error"));
     }
   }
+}
+
+void HostEditorEventsImpl::fire(const std::function<void(HostEditorReactor*)>& event)
+{
+  fireAll(m_reactors, event);
+}
+
+void HostEditorEventsImpl::fireDocManager(const std::function<void(HostDocManagerReactor*)>& event)
+{
+  fireAll(m_docReactors, event);
 }
 
 void HostEditorEventsImpl::commandWillStart(const OdString& name)

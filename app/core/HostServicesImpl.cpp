@@ -6,6 +6,8 @@
 #include "app/core/HostDocumentManager.h"
 #include "app/core/HostEditorEventsImpl.h"
 #include "app/core/HostOutput.h"
+#include "app/core/HostSysVars.h"
+#include "app/core/HostVariableStoreImpl.h"
 
 HostDocument* HostServicesImpl::currentDocument()
 {
@@ -25,4 +27,14 @@ HostEditorEvents* HostServicesImpl::editorEvents()
 HostEdCompletion::Registry* HostServicesImpl::completionRegistry()
 {
   return &m_app.completionRegistry();
+}
+
+HostSystemVariables* HostServicesImpl::systemVariables()
+{
+  return &m_app.sysVars();
+}
+
+HostVariableStore* HostServicesImpl::variableStore()
+{
+  return &m_app.variableStore();
 }

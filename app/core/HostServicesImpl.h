@@ -17,6 +17,8 @@ public:
   // The console has no window; the desktop program sets its main window.
   QWidget* mainWindow() override { return m_mainWindow; }
   void setMainWindow(QWidget* window) { m_mainWindow = window; }
+  HostSystemVariables* systemVariables() override;
+  HostVariableStore* variableStore() override;
 
 private:
   HostApp& m_app;

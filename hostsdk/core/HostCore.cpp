@@ -92,3 +92,24 @@ int hostMessageBox(const OdString& text, const OdString& caption, unsigned style
   std::fprintf(stderr, "%s: %s\n", caption.toUtf8().c_str(), text.toUtf8().c_str());
   return hostDefaultMessageBoxAnswer(style);
 }
+
+namespace {
+HostServices* g_services = nullptr;
+IApp* g_app = nullptr;
+} // namespace
+
+void hostSetContext(HostServices* services, IApp* app)
+{
+  g_services = services;
+  g_app = app;
+}
+
+HostServices* hostContextServices()
+{
+  return g_services;
+}
+
+IApp* hostContextApp()
+{
+  return g_app;
+}

@@ -3,6 +3,9 @@
 
 #include "sdk/kernel/OdString.h"
 
+class HostServices;
+class IApp;
+
 // The host's translation of a key or text. Without an installed catalog, or
 // for a text the catalog lacks, the text comes back unchanged.
 OdString Supp_Translate(const OdString& text);
@@ -38,3 +41,11 @@ void hostSetMessageBoxHandler(HostMessageBoxHandler handler);
 int hostMessageBox(const OdString& text, const OdString& caption, unsigned style);
 // The answer a box of that style gives without a user: its first button.
 int hostDefaultMessageBoxAnswer(unsigned style);
+
+// The running host as the host's own service libraries (the UI kit) reach
+// it: its services and its application object. The host sets both when it
+// starts and clears them when it stops; null while no host runs. Neither
+// is owned here.
+void hostSetContext(HostServices* services, IApp* app);
+HostServices* hostContextServices();
+IApp* hostContextApp();

@@ -6,6 +6,9 @@
 #include "hostsdk/core/HostEdCompletion.h"
 #include "hostsdk/core/HostEditorReactor.h"
 
+class HostDocManagerReactor;
+class HostSystemVariables;
+class HostVariableStore;
 class OdDbDatabase;
 class QWidget;
 
@@ -58,6 +61,9 @@ public:
   virtual ~HostEditorEvents() = default;
   virtual void addReactor(HostEditorReactor* reactor) = 0;
   virtual void removeReactor(HostEditorReactor* reactor) = 0;
+  // Documents made, made current and about to go; not owned either.
+  virtual void addDocManagerReactor(HostDocManagerReactor* reactor) {}
+  virtual void removeDocManagerReactor(HostDocManagerReactor* reactor) {}
 };
 
 class HostServices
@@ -72,4 +78,8 @@ public:
   virtual HostEdCompletion::Registry* completionRegistry() = 0;
   // The main window; null in a host without windows.
   virtual QWidget* mainWindow() = 0;
+  // System variables by name, and the host's store of named values; null
+  // in a host that has none.
+  virtual HostSystemVariables* systemVariables() { return nullptr; }
+  virtual HostVariableStore* variableStore() { return nullptr; }
 };

@@ -14,6 +14,7 @@
 #include "sdk/db/OdDbRasterImage.h"
 #include "sdk/db/OdDbText.h"
 #include "sdk/db/OdDbTextStyleTableRecord.h"
+#include "sdk/db/OdResBuf.h"
 
 #include "sdk/kernel/OdRxClass.h"
 
@@ -67,6 +68,8 @@ void odDbInitClasses()
   OdDbDimension::rxInit();
   OdDbHatch::rxInit();
   OdDbRasterImage::rxInit();
+  OdDbRasterImageDefReactor::rxInit();
+  OdResBuf::rxInit();
 }
 
 namespace {

@@ -56,6 +56,7 @@ OdDbObjectId OdDbBlockReference::appendAttribute(OdDbAttribute* attribute)
 {
   // Code 66 tells readers that attributes and a SEQEND follow.
   if (findPair(kSub, 66) < 0) {
+    assertWriteEnabled();
     const int at = findPair(kSub, 2);
     m_pairs.insert(m_pairs.begin() + (at < 0 ? ensureSection(kSub) : at), OdDbDxfPair{66, "1"});
   }

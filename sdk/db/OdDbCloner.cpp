@@ -44,6 +44,11 @@ public:
       return m_dst->tableId(OdDxf::fromOdString(table->tableName()));
     if (OdDbRasterImageDefPtr def = OdDbRasterImageDef::cast(obj); def.get())
       return copyImageDef(def);
+    if ((code >= 340 && code <= 349) || (code >= 360 && code <= 369)) {
+      const OdDbObjectId named = mapNamedObject(obj);
+      if (!named.isNull())
+        return named;
+    }
     // Owned or hard-referenced objects are copied; soft links to objects
     // that were not copied lead nowhere in the target.
     if ((code >= 340 && code <= 349) || (code >= 360 && code <= 369)) {
@@ -116,6 +121,36 @@ public:
   void mapTo(OdDbObjectId src, OdDbObjectId dst) { m_map[src.stub()] = dst; }
 
 private:
+  // Objects that an entry of the named object dictionary keeps (materials,
+  // visual styles, multi-leader styles) are the target's of the same name
+  // when it has one, and otherwise join its dictionary of that name: a
+  // copy without an owner would be an orphan in the target.
+  OdDbObjectId mapNamedObject(const OdDbObject* obj)
+  {
+    OdDbDictionaryPtr owner = OdDbDictionary::cast(obj->ownerId().openObject());
+    OdDbDictionaryPtr root = OdDbDictionary::cast(m_src->getNamedObjectsDictionaryId().openObject());
+    if (owner.isNull() || root.isNull() || owner->ownerId() != root->objectId())
+      return OdDbObjectId();
+    const OdString dictionary = root->nameAt(owner->objectId());
+    const OdString entry = owner->nameAt(obj->objectId());
+    if (dictionary.isEmpty() || entry.isEmpty())
+      return OdDbObjectId();
+    const std::string key = OdDxf::fromOdString(dictionary);
+    OdDbDictionaryPtr target = OdDbDictionary::cast(m_dst->namedDictionary(key.c_str(), true).openObject(OdDb::kForWrite));
+    if (target.isNull())
+      return OdDbObjectId();
+    OdDbObjectId id = target->getAt(entry);
+    if (id.isNull()) {
+      OdDbObjectPtr copy = copyObject(obj);
+      if (copy.isNull())
+        return OdDbObjectId();
+      id = target->setAt(entry, copy);
+      copy->addPersistentReactor(target->objectId());
+    }
+    mapTo(obj->objectId(), id);
+    return id;
+  }
+
   void copyBlockFrame(const OdDbBlockTableRecord* src, OdDbBlockTableRecord* dst)
   {
     OdDbEntityPtr begin = OdDbEntity::cast(copyObject(src->blockBegin()));

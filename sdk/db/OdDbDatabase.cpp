@@ -1,6 +1,7 @@
 // The drawing database: handles, tables, header variables, current values.
 #include "sdk/db/OdDbDatabase.h"
 #include "sdk/db/OdDbBlockTableRecord.h"
+#include "sdk/db/OdDbDatabaseReactor.h"
 #include "sdk/db/OdDbDictionary.h"
 #include "sdk/db/OdDbDimStyleTableRecord.h"
 #include "sdk/db/OdDbLayerTableRecord.h"
@@ -101,6 +102,10 @@ OdDbObjectId OdDbDatabase::addOdDbObject(OdDbObject* object, OdDbObjectId ownerI
   object->addRef();
   stub->object = object;
   object->attachStub(stub);
+  // Reactors hear of the object before anything more is done to it (its
+  // owner, the objects it owns): an undo journal then knows it as new.
+  for (std::size_t i = 0; i < m_reactors.size(); ++i)
+    m_reactors[i]->objectAppended(this, object);
   object->setOwnerId(ownerId);
   object->setOpenMode(OdDb::kForWrite);
   // Everything that is no entity and no table goes to the OBJECTS section.
@@ -213,6 +218,39 @@ OdDbObjectId OdDbDatabase::currentLayoutId() const
   return b.isNull() ? OdDbObjectId() : b->getLayoutId();
 }
 
+// --- reactors ----------------------------------------------------------------
+
+void OdDbDatabase::addReactor(OdDbDatabaseReactor* reactor)
+{
+  if (reactor && std::find(m_reactors.begin(), m_reactors.end(), reactor) == m_reactors.end())
+    m_reactors.push_back(reactor);
+}
+
+void OdDbDatabase::removeReactor(OdDbDatabaseReactor* reactor)
+{
+  m_reactors.erase(std::remove(m_reactors.begin(), m_reactors.end(), reactor), m_reactors.end());
+}
+
+// By index: a reactor may remove itself while it is told.
+void OdDbDatabase::fireModify(const OdDbObject* object) const
+{
+  for (std::size_t i = 0; i < m_reactors.size(); ++i)
+    m_reactors[i]->objectOpenedForModify(this, object);
+}
+
+void OdDbDatabase::fireHeader(const std::string& name, bool changed) const
+{
+  if (m_reactors.empty())
+    return;
+  const OdString bare = OdDxf::toOdString(name.size() > 1 && name[0] == '$' ? name.substr(1) : name);
+  for (std::size_t i = 0; i < m_reactors.size(); ++i) {
+    if (changed)
+      m_reactors[i]->headerSysVarChanged(this, bare);
+    else
+      m_reactors[i]->headerSysVarWillChange(this, bare);
+  }
+}
+
 // --- header ------------------------------------------------------------------
 
 const OdDbDatabase::HeaderVar* OdDbDatabase::headerVar(const std::string& name) const
@@ -228,18 +266,27 @@ void OdDbDatabase::setHeaderVar(const std::string& name, const OdDbDxfPairArray&
   OdDbDxfPairArray stored;
   for (const OdDbDxfPair& p : pairs)
     stored.push_back({p.code, m_arena->store(p.value)});
+  fireHeader(name, false);
+  bool found = false;
   for (HeaderVar& v : m_header)
     if (v.name == name) {
       v.pairs = std::move(stored);
-      return;
+      found = true;
+      break;
     }
-  m_header.push_back({name, std::move(stored)});
+  if (!found)
+    m_header.push_back({name, std::move(stored)});
+  fireHeader(name, true);
 }
 
 void OdDbDatabase::removeHeaderVar(const std::string& name)
 {
+  if (!headerVar(name))
+    return;
+  fireHeader(name, false);
   m_header.erase(std::remove_if(m_header.begin(), m_header.end(), [&](const HeaderVar& v) { return v.name == name; }),
                  m_header.end());
+  fireHeader(name, true);
 }
 
 OdString OdDbDatabase::getHeaderString(const std::string& name, const OdString& fallback) const

@@ -9,6 +9,7 @@
 #include <vector>
 
 class OdDbDatabase;
+class OdDbDatabaseReactor;
 class OdDbDimStyleTableRecord;
 using OdDbDatabasePtr = OdSmartPtr<OdDbDatabase>;
 
@@ -141,6 +142,17 @@ public:
   void setDimstyleData(OdDbObjectId styleId);
   void setDimstyleData(const OdDbDimStyleTableRecord* style);
 
+  // --- reactors -----------------------------------------------------------
+  // Reactors are not owned; adding one twice adds it once.
+  void addReactor(OdDbDatabaseReactor* reactor);
+  void removeReactor(OdDbDatabaseReactor* reactor);
+  // Told by an object before it changes (OdDbObject::assertWriteEnabled).
+  void fireObjectOpenedForModify(const OdDbObject* object) const
+  {
+    if (!m_reactors.empty())
+      fireModify(object);
+  }
+
   // --- file --------------------------------------------------------------
   OdString getFilename() const { return m_fileName; }
   void setFilename(const OdString& path) { m_fileName = path; }
@@ -191,6 +203,8 @@ private:
   friend class OdDbCloner;
   OdDbStub* newStub(const OdDbHandle& handle);
   void addLayouts();
+  void fireModify(const OdDbObject* object) const;
+  void fireHeader(const std::string& name, bool changed) const;
 
   std::deque<OdDbStub> m_stubs;
   std::unordered_map<std::uint64_t, OdDbStub*> m_byHandle;
@@ -205,6 +219,7 @@ private:
   OdString m_fileName;
   std::string m_fileVersion;
   bool m_loading = false;
+  std::vector<OdDbDatabaseReactor*> m_reactors; // not owned
 };
 
 // A new drawing; with defaults, one with every table and standard record.

@@ -69,6 +69,7 @@ OdDbObjectId OdDbDictionary::setAt(const OdString& name, OdDbObject* object)
 // 360 marks an entry the dictionary owns, 350 one it only points at.
 void OdDbDictionary::setAt(const OdString& name, OdDbObjectId id, bool hardOwner)
 {
+  assertWriteEnabled();
   remove(name);
   const int at = ensureSection(kSub);
   m_pairs.insert(m_pairs.begin() + at, {OdDbDxfPair{3, storeText(OdDxf::fromOdString(name))},
@@ -82,6 +83,7 @@ bool OdDbDictionary::remove(const OdString& name)
     const OdDbDxfPair& p = m_pairs[std::size_t(i)];
     if (p.code == 3 && OdDxf::toOdString(p.value).iCompare(name) == 0 &&
         (m_pairs[std::size_t(i + 1)].code == 350 || m_pairs[std::size_t(i + 1)].code == 360)) {
+      assertWriteEnabled();
       m_pairs.erase(m_pairs.begin() + i, m_pairs.begin() + i + 2);
       return true;
     }

@@ -35,10 +35,18 @@ OdDbObject::OdDbObject()
 
 OdDbObject::~OdDbObject() = default;
 
+void OdDbObject::assertWriteEnabled() const
+{
+  if (m_stub && m_stub->database)
+    m_stub->database->fireObjectOpenedForModify(this);
+}
+
 OdResult OdDbObject::erase(bool erasing)
 {
   if (!m_stub)
     return eNullPtr; // not in a drawing: nothing to erase it from
+  if (m_stub->erased != erasing)
+    assertWriteEnabled();
   if (m_stub->erased != erasing)
     m_eraseToggled = !m_eraseToggled;
   m_stub->erased = erasing;
@@ -63,6 +71,47 @@ OdDbObjectId OdDbObject::extensionDictionary() const
   return OdDbObjectId();
 }
 
+std::vector<OdDbObjectId> OdDbObject::getPersistentReactors() const
+{
+  std::vector<OdDbObjectId> out;
+  OdDbDatabase* db = database();
+  bool in = false;
+  for (const OdDbDxfPair& p : m_pairs) {
+    if (p.code != 102 && !in)
+      break;
+    if (p.code == 102) {
+      in = p.value == "{ACAD_REACTORS";
+      continue;
+    }
+    if (p.code == 330 && db)
+      out.push_back(db->getOdDbObjectId(OdDbHandle::fromText(p.value)));
+  }
+  return out;
+}
+
+// The group leads the pairs, as the format has it: before the extension
+// dictionary's group and the owner.
+void OdDbObject::addPersistentReactor(OdDbObjectId reactorId)
+{
+  if (reactorId.isNull())
+    return;
+  for (const OdDbObjectId& id : getPersistentReactors())
+    if (id == reactorId)
+      return;
+  assertWriteEnabled();
+  const OdDbDxfPair entry{330, storeText(reactorId.getHandle().text())};
+  for (std::size_t i = 0; i < m_pairs.size() && m_pairs[i].code == 102; ++i) {
+    if (m_pairs[i].value == "{ACAD_REACTORS") {
+      std::size_t end = i + 1;
+      while (end < m_pairs.size() && m_pairs[end].code != 102)
+        ++end;
+      m_pairs.insert(m_pairs.begin() + long(end), entry);
+      return;
+    }
+  }
+  m_pairs.insert(m_pairs.begin(), {OdDbDxfPair{102, "{ACAD_REACTORS"}, entry, OdDbDxfPair{102, "}"}});
+}
+
 void OdDbObject::initData(const char* type, std::initializer_list<OdDbDxfPair> pairs)
 {
   m_type = type;
@@ -71,6 +120,7 @@ void OdDbObject::initData(const char* type, std::initializer_list<OdDbDxfPair> p
 
 void OdDbObject::setDxfData(std::string type, OdDbDxfPairArray pairs, const OdDbStringArenaPtr& arena)
 {
+  assertWriteEnabled();
   m_type = std::move(type);
   m_pairs = std::move(pairs);
   m_arena = arena;
@@ -195,6 +245,7 @@ std::pair<int, int> OdDbObject::sectionRange(const char* sub) const
 
 int OdDbObject::ensureSection(const char* sub)
 {
+  assertWriteEnabled();
   const int end = xdataStart();
   if (!sub)
     return end;
@@ -214,6 +265,7 @@ int OdDbObject::ensureSection(const char* sub)
 // missing), before the extended data.
 void OdDbObject::setRaw(const char* sub, int code, std::string_view value)
 {
+  assertWriteEnabled();
   const std::string_view stored = storeText(value);
   const int i = findPair(sub, code);
   if (i >= 0) {
@@ -241,6 +293,7 @@ void OdDbObject::setInt(const char* sub, int code, long long value)
 
 void OdDbObject::setPoint(const char* sub, int code, const OdGePoint3d& p)
 {
+  assertWriteEnabled();
   const int i = findPair(sub, code);
   if (i >= 0) {
     std::size_t k = std::size_t(i);
@@ -273,12 +326,14 @@ void OdDbObject::setId(const char* sub, int code, OdDbObjectId id)
 
 void OdDbObject::removeCode(const char* sub, int code)
 {
+  assertWriteEnabled();
   for (int i = findPair(sub, code); i >= 0; i = findPair(sub, code, i))
     m_pairs.erase(m_pairs.begin() + i);
 }
 
 void OdDbObject::replaceSection(const char* sub, const OdDbDxfPairArray& body)
 {
+  assertWriteEnabled();
   ensureSection(sub);
   auto r = sectionRange(sub);
   m_pairs.erase(m_pairs.begin() + r.first, m_pairs.begin() + r.second);
@@ -303,6 +358,7 @@ OdDbDxfPairArray OdDbObject::xData(const OdString& appName) const
 
 void OdDbObject::setXData(const OdString& appName, const OdDbDxfPairArray& pairs)
 {
+  assertWriteEnabled();
   // Drop the old group of this application, then append the new one.
   std::size_t i = std::size_t(xdataStart());
   while (i < m_pairs.size()) {

@@ -8,6 +8,7 @@
 
 #include <initializer_list>
 #include <string>
+#include <vector>
 
 // Every object keeps its data as the DXF group-code pairs it was read with
 // (or was made with), after its type, handle and owner. The typed
@@ -25,7 +26,11 @@ public:
   OdDbHandle getDbHandle() const { return m_stub ? m_stub->handle : OdDbHandle(); }
   OdDbDatabase* database() const { return m_stub ? m_stub->database : nullptr; }
   OdDbObjectId ownerId() const { return m_owner; }
-  virtual void setOwnerId(OdDbObjectId owner) { m_owner = owner; }
+  virtual void setOwnerId(OdDbObjectId owner)
+  {
+    assertWriteEnabled();
+    m_owner = owner;
+  }
 
   bool isErased() const { return m_stub && m_stub->erased; }
   // Erases (or un-erases) the object; an erased object is not written.
@@ -41,11 +46,19 @@ public:
   void downgradeOpen() { m_openMode = OdDb::kForRead; }
   void close() { m_eraseToggled = false; }
   void setOpenMode(OdDb::OpenMode mode) { m_openMode = mode; }
+  // Every change of the object's data, owner or erase state goes through
+  // here first, so that the database's reactors hear of it before it
+  // happens. Code that edits dxfPairs() directly calls it itself.
+  void assertWriteEnabled() const;
 
   // True for objects of classes that the writing application did not
   // publish (proxies), kept as they were read.
   bool isAProxy() const;
   OdDbObjectId extensionDictionary() const;
+  // Persistent reactors: objects told of this one's changes, kept in its
+  // {ACAD_REACTORS group (an image definition lists its images' reactors).
+  void addPersistentReactor(OdDbObjectId reactorId);
+  std::vector<OdDbObjectId> getPersistentReactors() const;
   // The DXF type name ("LINE", "LAYER", "DICTIONARY").
   OdString dxfName() const { return OdDxf::toOdString(m_type); }
   const std::string& dxfType() const { return m_type; }

@@ -9,6 +9,13 @@
 
 ODRX_DEFINE_MEMBERS(OdDbRasterImageDef, OdDbObject, ODRX_CREATE_IMPL(OdDbRasterImageDef, OdDbRasterImageDef))
 ODRX_DEFINE_MEMBERS(OdDbRasterImage, OdDbEntity, ODRX_CREATE_IMPL(OdDbRasterImage, OdDbRasterImage))
+ODRX_DEFINE_MEMBERS(OdDbRasterImageDefReactor, OdDbObject,
+                    ODRX_CREATE_IMPL(OdDbRasterImageDefReactor, OdDbRasterImageDefReactor))
+
+OdDbRasterImageDefReactor::OdDbRasterImageDefReactor()
+{
+  initData("IMAGEDEF_REACTOR", {odPair(100, kSub), odPair(90, "2")});
+}
 
 OdDbRasterImageDef::OdDbRasterImageDef()
 {
@@ -74,6 +81,19 @@ void OdDbRasterImage::setImageDefId(OdDbObjectId id)
     setDouble(kSub, 13, def->size().x);
     setDouble(kSub, 23, def->size().y);
   }
+}
+
+// Code 360 stands after the fade (283), before the clip boundary.
+void OdDbRasterImage::setReactorId(OdDbObjectId id)
+{
+  if (findPair(kSub, 360) >= 0) {
+    setId(kSub, 360, id);
+    return;
+  }
+  assertWriteEnabled();
+  const int fade = findPair(kSub, 283);
+  const int at = fade >= 0 ? fade + 1 : ensureSection(kSub);
+  m_pairs.insert(m_pairs.begin() + at, OdDbDxfPair{360, storeText(id.getHandle().text())});
 }
 
 void OdDbRasterImage::getOrientation(OdGePoint3d& origin, OdGeVector3d& u, OdGeVector3d& v) const

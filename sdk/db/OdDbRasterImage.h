@@ -27,6 +27,20 @@ protected:
 };
 using OdDbRasterImageDefPtr = OdSmartPtr<OdDbRasterImageDef>;
 
+// Ties an image to its definition: owned by the image, listed among the
+// definition's persistent reactors.
+class OdDbRasterImageDefReactor : public OdDbObject
+{
+  ODRX_DECLARE_MEMBERS(OdDbRasterImageDefReactor);
+
+public:
+  static constexpr const char* kSub = "AcDbRasterImageDefReactor";
+
+protected:
+  OdDbRasterImageDefReactor();
+};
+using OdDbRasterImageDefReactorPtr = OdSmartPtr<OdDbRasterImageDefReactor>;
+
 class OdDbRasterImage : public OdDbEntity
 {
   ODRX_DECLARE_MEMBERS(OdDbRasterImage);
@@ -36,6 +50,9 @@ public:
   OdDbObjectId imageDefId() const { return getId(kSub, 340); }
   // Also takes the size in pixels from the definition.
   void setImageDefId(OdDbObjectId id);
+  // The image's reactor on its definition (code 360).
+  OdDbObjectId reactorId() const { return getId(kSub, 360); }
+  void setReactorId(OdDbObjectId id);
   void getOrientation(OdGePoint3d& origin, OdGeVector3d& u, OdGeVector3d& v) const;
   // u and v span the whole image; the file keeps one pixel's vectors.
   void setOrientation(const OdGePoint3d& origin, const OdGeVector3d& u, const OdGeVector3d& v);

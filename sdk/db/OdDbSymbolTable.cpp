@@ -152,7 +152,10 @@ void OdDbSymbolTable::appendLoadedRecord(OdDbObjectId id)
   if (m_indexValid) {
     OdDbSymbolTableRecordPtr r = OdDbSymbolTableRecord::cast(id.openObject(OdDb::kForRead, true));
     const QString key = r.isNull() ? QString() : r->getName().qstring().toCaseFolded();
-    if (!m_index.contains(key))
+    // A live record takes the name over from an erased one (a record that
+    // was undone and then made again).
+    auto it = m_index.find(key);
+    if (it == m_index.end() || (it->isErased() && !id.isErased()))
       m_index.insert(key, id);
   }
 }

@@ -49,6 +49,7 @@ void OdDbText::setVerticalMode(int mode)
     return;
   }
   // Plain text keeps code 73 in its second AcDbText section.
+  assertWriteEnabled();
   int last = -1;
   for (std::size_t i = 0; i < m_pairs.size() && m_pairs[i].code != 1001; ++i)
     if (m_pairs[i].code == 100 && m_pairs[i].value == kSub)

@@ -49,7 +49,8 @@ const std::unordered_map<std::string_view, Creator>& objectFactory()
 {
   static const std::unordered_map<std::string_view, Creator> f = {
       {"DICTIONARY", &make<OdDbDictionary>}, {"ACDBDICTIONARYWDFLT", &make<OdDbDictionary>}, {"LAYOUT", &make<OdDbLayout>},
-      {"PLOTSETTINGS", &make<OdDbPlotSettings>}, {"IMAGEDEF", &make<OdDbRasterImageDef>}};
+      {"PLOTSETTINGS", &make<OdDbPlotSettings>}, {"IMAGEDEF", &make<OdDbRasterImageDef>},
+      {"IMAGEDEF_REACTOR", &make<OdDbRasterImageDefReactor>}};
   return f;
 }
 
