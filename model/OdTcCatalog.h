@@ -2,7 +2,6 @@
 // palettes, the groups and the order of its children.
 #pragma once
 
-#include "model/OdTcGroup.h"
 #include "model/OdTcToolPalette.h"
 
 namespace tc {

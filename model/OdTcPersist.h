@@ -3,7 +3,6 @@
 #pragma once
 
 #include "sdk/kernel/OdRxObject.h"
-#include "sdk/kernel/OdVariant.h"
 
 namespace tc {
 

@@ -2,15 +2,15 @@
 #include "module/OdTcPaletteManagerImpl.h"
 
 #include "module/TcCfgChangeReactor.h"
-#include "host/TcHost.h"
 #include "module/TcModuleState.h"
+
+#include "host/TcHost.h"
 
 #include "hostsdk/core/CXStringW.h"
 #include "hostsdk/core/HostCore.h"
 #include "sdk/kernel/OdRxSystemServices.h"
 
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 
 namespace tc {
@@ -164,12 +164,34 @@ bool OdTcPaletteManagerImpl::loadCatalogs()
 bool OdTcPaletteManagerImpl::openCatalog(const OdString& path)
 {
   OdTcCatalogPtr catalog = OdTcCatalogImpl::createNew();
-  if (!catalog->load(path)) {
-    // Missing or unreadable: a new catalog in memory, current at once. A
-    // later save writes it over the file, so an unreadable file is kept
-    // aside first.
-    if (Fio_IsFileExist(path) && !Fio_IsFileExist(path + ".unreadable"))
-      QFile::copy(path.qstring(), (path + ".unreadable").qstring());
+  const bool loaded = catalog->load(path);
+  const OdTcReadStatus status = catalog->fileStatus();
+  if (status.result == OdTcReadStatus::kUnreadable) {
+    // A catalog in its place would be saved over the user's file, which
+    // may hold years of work that only this machine cannot read.
+    hostPrint(Supp_Translate("Cannot read the tool palettes catalog %s: %s. The catalog is left out, and its file "
+                             "stays as it is.\n"),
+              path, status.reason);
+    return true;
+  }
+  if (status.result == OdTcReadStatus::kDamaged) {
+    OdString reason;
+    const OdString copy = odtcFileStore().keepAside(path, reason);
+    if (copy.isEmpty()) {
+      hostPrint(Supp_Translate("The tool palettes catalog %s is damaged (%s), and no copy of it can be kept (%s). "
+                               "The catalog is left out, and its file stays as it is.\n"),
+                path, status.reason, reason);
+      return true;
+    }
+    hostPrint(Supp_Translate("The tool palettes catalog %s is damaged (%s). %s; the file as it was is kept as "
+                             "%s.\n"),
+              path, status.reason,
+              loaded ? Supp_Translate("What could be read is shown") : Supp_Translate("An empty catalog replaces it"),
+              copy);
+  }
+  if (!loaded) {
+    // Missing, or no catalog at all in the file: a new catalog in memory,
+    // current at once.
     catalog = OdTcCatalogImpl::createNew();
     catalog->setId(odrxSystemServices()->createGuid());
     catalog->setName(Supp_Translate("Tool Palettes"));

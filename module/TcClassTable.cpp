@@ -2,10 +2,12 @@
 // comes into the module, and its place in the order of deletion.
 #include "module/TcClassTable.h"
 
-#include "model/OdTcCatalogImpl.h"
+#include "model/OdTcCatalog.h"
+#include "model/OdTcGroup.h"
 #include "model/OdTcImageList.h"
-#include "model/OdTcLists.h"
+#include "model/OdTcList.h"
 #include "model/OdTcOrderLists.h"
+#include "model/OdTcPaletteSoftRef.h"
 #include "model/OdTcPaletteUi.h"
 #include "model/OdTcProperties.h"
 #include "module/OdTcPaletteManager.h"

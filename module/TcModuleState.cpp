@@ -10,6 +10,8 @@
 
 #include "hostsdk/core/HostCore.h"
 
+#include <memory>
+
 namespace tc {
 
 OdRxModule* moduleObject = nullptr;

@@ -11,8 +11,6 @@
 #include "host/TcHost.h"
 #include "persist/TcFileStore.h"
 
-#include <memory>
-
 class OdRxModule;
 class QWidget;
 

@@ -288,6 +288,11 @@ bool nestsDeeperThan(const std::vector<char>& text, int limit)
 void OdTcFilerImplBase::parseStream(OdStreamBuf* stream)
 {
   const std::uint64_t length = stream->length();
+  if (length > kMaxFileSize) {
+    m_refused = true;
+    m_readProblem = OdString::formatted("it is larger than %d MB", int(kMaxFileSize >> 20));
+    return;
+  }
   std::vector<char> buffer(length + 1, '\0');
   stream->rewind();
   if (length)

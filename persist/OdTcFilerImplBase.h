@@ -59,6 +59,9 @@ public:
   // Deeper than this no catalog or palette file of any program goes; a
   // file that does would overflow the stack of the parser.
   static constexpr int kMaxElementDepth = 256;
+  // Nor is any larger than this; a file that is would take the memory of
+  // the host, or its time, for nothing.
+  static constexpr std::uint64_t kMaxFileSize = std::uint64_t(256) << 20;
 
 protected:
   // The element name used to look up the tag table.

@@ -4,7 +4,7 @@
 
 #include "persist/OdTcTagTable.h"
 
-#include "model/OdTcCatalogImpl.h"
+#include "model/OdTcGroupImpl.h"
 #include "model/OdTcLists.h"
 #include "model/OdTcOrderLists.h"
 #include "model/OdTcPaletteUi.h"

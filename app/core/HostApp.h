@@ -9,7 +9,6 @@
 
 #include <iosfwd>
 #include <memory>
-#include <utility>
 #include <vector>
 
 class HostAppInteriorImpl;

@@ -5,8 +5,6 @@
 
 #include "app/core/HostCommandTable.h"
 
-#include "sdk/kernel/OdString.h"
-
 class HostApp;
 
 namespace HostBuiltinCommands {

@@ -1,8 +1,6 @@
 // Completion providers.
 #include "app/core/HostCompletionRegistryImpl.h"
 
-#include <algorithm>
-
 void HostCompletionRegistryImpl::addProvider(const OdString& key, const HostEdCompletion::Provider* provider)
 {
   if (!provider)

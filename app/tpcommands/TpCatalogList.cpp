@@ -90,8 +90,28 @@ void saveCatalogs(HostCommandOutput& out)
     out.print("%s\n", OdString("The tool palettes module is not started: there is nothing to save."));
     return;
   }
-  manager->saveCatalogs();
-  out.print("%s\n", OdString("Catalogs saved."));
+  // Catalog by catalog, as the manager saves them, to say which reached
+  // its file; the module tells why one did not.
+  int failed = 0;
+  int saved = 0;
+  auto catalogs = manager->catalogs();
+  OdString path;
+  OdTcCatalog* catalog = nullptr;
+  while (catalogs->next(path, catalog)) {
+    if (catalog->save(path)) {
+      ++saved;
+      out.print("Saved the catalog \"%s\" to %s.\n", catalog->displayName(), path);
+    } else {
+      ++failed;
+      out.print("The catalog \"%s\" was not saved to %s.\n", catalog->displayName(), path);
+    }
+  }
+  if (failed + saved == 0)
+    out.print("%s\n", OdString("There is no catalog to save."));
+  else if (failed == 0)
+    out.print("%s\n", OdString("Catalogs saved."));
+  else
+    out.print("%d of %d catalogs could not be saved.\n", failed, failed + saved);
 }
 
 } // namespace tpcommands

@@ -5,8 +5,12 @@
 #include <QFileInfo>
 #include <QUuid>
 
-#include <algorithm>
+#include <cerrno>
 #include <cstring>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 ODRX_NO_CONS_DEFINE_MEMBERS(OdStreamBuf, OdRxObject)
 
@@ -61,46 +65,42 @@ namespace {
 class FileStream : public OdStreamBuf
 {
 public:
-  bool open(const OdString& name, Oda::FileAccessMode access, Oda::FileCreationDisposition disposition)
+  // Opens only regular files: a FIFO or a device named where a file
+  // belongs would block the opening, or the reading, for ever. 0 on
+  // success, else the system's error number, or kNotRegular.
+  static constexpr int kNotRegular = -1;
+  int open(const OdString& name, Oda::FileAccessMode access, Oda::FileCreationDisposition disposition)
   {
-    m_file.setFileName(name.qstring());
-    QIODevice::OpenMode mode;
-    if (access & Oda::kFileRead)
-      mode |= QIODevice::ReadOnly;
-    if (access & Oda::kFileWrite)
-      mode |= QIODevice::WriteOnly;
-    if (!mode)
-      mode = QIODevice::ReadOnly;
-    const bool exists = QFileInfo::exists(name.qstring());
+    m_name = name;
+    const bool write = access & Oda::kFileWrite;
+    const bool read = (access & Oda::kFileRead) || !write;
+    int flags = O_CLOEXEC | O_NONBLOCK | (read && write ? O_RDWR : write ? O_WRONLY : O_RDONLY);
     switch (disposition) {
-    case Oda::kCreateNew:
-      if (exists)
-        return false;
-      mode |= QIODevice::NewOnly;
-      break;
-    case Oda::kCreateAlways:
-      mode |= QIODevice::Truncate;
-      break;
-    case Oda::kOpenExisting:
-      if (!exists)
-        return false;
-      if (mode & QIODevice::WriteOnly)
-        mode |= QIODevice::ExistingOnly;
-      break;
-    case Oda::kOpenAlways:
-      break;
-    case Oda::kTruncateExisting:
-      if (!exists)
-        return false;
-      mode |= QIODevice::Truncate | QIODevice::ExistingOnly;
-      break;
+    case Oda::kCreateNew: flags |= O_CREAT | O_EXCL; break;
+    case Oda::kCreateAlways: flags |= O_CREAT | (write ? O_TRUNC : 0); break;
+    case Oda::kOpenExisting: break;
+    case Oda::kOpenAlways: flags |= O_CREAT; break;
+    case Oda::kTruncateExisting: flags |= write ? O_TRUNC : 0; break;
     }
-    if ((mode & QIODevice::WriteOnly) && !(mode & QIODevice::Truncate) && !(access & Oda::kFileRead))
-      mode |= QIODevice::ReadOnly; // keep what is there: writing alone would truncate
-    return m_file.open(mode);
+    const int fd = ::open(QFile::encodeName(name.qstring()).constData(), flags, 0666);
+    if (fd < 0)
+      return errno;
+    struct stat info {};
+    if (::fstat(fd, &info) != 0 || !S_ISREG(info.st_mode)) {
+      ::close(fd);
+      return kNotRegular;
+    }
+    ::fcntl(fd, F_SETFL, ::fcntl(fd, F_GETFL) & ~O_NONBLOCK);
+    const QIODevice::OpenMode mode =
+        read && write ? QIODevice::ReadWrite : write ? QIODevice::WriteOnly : QIODevice::ReadOnly;
+    if (!m_file.open(fd, mode, QFileDevice::AutoCloseHandle)) {
+      ::close(fd);
+      return EIO;
+    }
+    return 0;
   }
 
-  OdString fileName() override { return OdString(m_file.fileName()); }
+  OdString fileName() override { return m_name; }
   std::uint64_t length() override { return std::uint64_t(m_file.size()); }
   std::uint64_t tell() override { return std::uint64_t(m_file.pos()); }
   std::uint64_t seek(std::int64_t offset, SeekType whence) override
@@ -136,6 +136,7 @@ public:
 
 private:
   QFile m_file;
+  OdString m_name;
 };
 
 } // namespace
@@ -144,10 +145,12 @@ OdStreamBufPtr OdRxSystemServices::createFile(const OdString& fileName, Oda::Fil
                                               Oda::FileShareMode, Oda::FileCreationDisposition disposition)
 {
   auto stream = OdRxObjectImpl<FileStream, OdStreamBuf>::createObject();
-  if (!static_cast<FileStream*>(stream.get())->open(fileName, access, disposition)) {
-    const bool exists = QFileInfo::exists(fileName.qstring());
-    throw OdError_FileException(exists ? eFileAccessErr : eFileNotFound, fileName);
-  }
+  const int error = static_cast<FileStream*>(stream.get())->open(fileName, access, disposition);
+  if (error == FileStream::kNotRegular)
+    throw OdError_FileException(eFileAccessErr, fileName, "it is not a regular file");
+  if (error)
+    throw OdError_FileException(error == ENOENT || error == ENOTDIR ? eFileNotFound : eFileAccessErr, fileName,
+                                OdString(std::strerror(error)));
   return stream;
 }
 

@@ -33,6 +33,13 @@ config="$home/config/verdani/config.xml"
 grep -qF '/tmp/palettes with space' "$config" || fail "ToolPaletteDir not in $config"
 grep -qF '/srv/common' "$config" || fail "--set CommonDirs not in $config"
 
+# A FIFO or a device where a drawing belongs is refused, never waited on.
+mkfifo "$home/pipe.dxf"
+printf 'OpenDocument\n%s\nOpenDocument\n/dev/zero\nExit\n' "$home/pipe.dxf" |
+  timeout 20 "$console" >"$home/out4.txt" 2>&1 || fail "exit code with a FIFO to open"
+expect_line "Cannot open the document: $home/pipe.dxf is not a file." "$home/out4.txt"
+expect_line 'Cannot open the document: /dev/zero is not a file.' "$home/out4.txt"
+
 # The module beside the console loads by name, and its two commands are
 # there.
 printf 'ToolPalettes\n__executetool\n\nExit\n' | "$console" >"$home/out2.txt" 2>&1 || fail "exit code with the module"

@@ -270,7 +270,6 @@ TEST_F(CatalogItems, orderLists_readIdsAndDropOneDuplicate)
   read("<Catalog><CatalogItemOrder><ID>a</ID><ID>b</ID><ID>a</ID></CatalogItemOrder></Catalog>", item);
   // The common reader takes no "CatalogItemOrder": a container class does.
   EXPECT_TRUE(item->itemOrder().isEmpty());
-  auto order = OdTcCatalogItemOrderListImpl::createNew();
   OdRxObjectImpl<OdTcCatalogItemOrderListImpl> empty;
   EXPECT_TRUE(empty.ids().isEmpty());
   item->setItemOrder(OdArray<OdString>{"a", "b", "a"});

@@ -1,91 +1,20 @@
 // The palette manager against real folders: start-up with the configured
 // folders, refreshes after configuration changes, look-ups.
-#include "tests/module/FakeHost.h"
-
-#include "module/OdTcPaletteManagerImpl.h"
-#include "module/TcClassTable.h"
-
-#include "images/TcImageClasses.h"
-#include "persist/OdTcTagTable.h"
-#include "persist/TcFileStore.h"
-#include "persist/TcModelTags.h"
+#include "tests/module/ManagerFixture.h"
+#include "tests/support/Unprivileged.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QTemporaryDir>
-
-#include <unistd.h>
 
 #include <gtest/gtest.h>
 
 using namespace tc;
 
 namespace {
-
-struct RecordingReactor : OdTcPaletteManagerReactor
+class PaletteManager : public tst::ManagerFixture
 {
-  std::vector<std::string> calls;
-  void catalogAdded(OdTcCatalog* c) override { calls.push_back("added " + c->displayName().toUtf8()); }
-  void catalogRemoved(OdTcCatalog* c) override { calls.push_back("removed " + c->displayName().toUtf8()); }
-  void catalogsChanged() override { calls.push_back("changed"); }
 };
-
-class PaletteManager : public ::testing::Test
-{
-protected:
-  void SetUp() override
-  {
-    fakehost::reset();
-    fakehost::state().userDataFolder = OdString(m_dir.filePath(QStringLiteral("data")));
-    m_classes = std::make_unique<TcClassRegistration>();
-    registerModelTags(OdTcTagTable::instance());
-    registerImageClasses(OdTcTagTable::instance());
-    odtcSetFileStore(&m_store);
-    m_storage = OdTcValueStorageImpl::createNew();
-  }
-  void TearDown() override
-  {
-    m_manager = nullptr;
-    m_storage = nullptr;
-    odtcSetFileStore(nullptr);
-    OdTcTagTable::instance().clear();
-    m_classes.reset();
-  }
-
-  OdString userFolder() const { return OdString(m_dir.filePath(QStringLiteral("data/ToolPalette"))); }
-  OdString folder(const char* name)
-  {
-    QDir(m_dir.path()).mkpath(QString::fromUtf8(name));
-    return OdString(m_dir.filePath(QString::fromUtf8(name)));
-  }
-  void setList(const OdString& list) { fakehost::state().stdDirs["ToolPaletteDir"] = CRkVariant(list); }
-  OdTcPaletteManagerImpl* start()
-  {
-    m_manager = OdTcPaletteManagerImpl::createNew(m_storage);
-    m_manager->addReactor(&m_reactor);
-    m_manager->loadCatalogs();
-    return static_cast<OdTcPaletteManagerImpl*>(m_manager.get());
-  }
-  std::vector<std::string> catalogNames()
-  {
-    std::vector<std::string> names;
-    auto e = m_manager->catalogs();
-    OdString path;
-    OdTcCatalog* c = nullptr;
-    while (e->next(path, c))
-      names.push_back(c->displayName().toUtf8());
-    return names;
-  }
-
-  std::unique_ptr<TcClassRegistration> m_classes;
-  TcFileStore m_store;
-  OdTcValueStorageImplPtr m_storage;
-  QTemporaryDir m_dir;
-  OdTcPaletteManagerPtr m_manager;
-  RecordingReactor m_reactor;
-};
-
 } // namespace
 
 TEST_F(PaletteManager, emptyPathList_printsMessageAndOpensNothing)
@@ -131,13 +60,10 @@ TEST_F(PaletteManager, newWritableFolder_getsCatalogNamedAfterIt)
 
 TEST_F(PaletteManager, readOnlyFolder_isReportedAndSkipped)
 {
-  // Root writes anywhere a permission bit would forbid, so the read-only
-  // folder is one of the kernel's own then.
-  OdString readOnly = folder("ro");
-  if (geteuid() == 0)
-    readOnly = "/proc/sys";
-  else
-    QFile::setPermissions(readOnly.qstring(), QFileDevice::ReadOwner | QFileDevice::ExeOwner);
+  if (tst::reranUnprivileged())
+    return;
+  const OdString readOnly = folder("ro");
+  QFile::setPermissions(readOnly.qstring(), QFileDevice::ReadOwner | QFileDevice::ExeOwner);
   setList(readOnly);
   start();
   EXPECT_NE(fakehost::state().printed.find("Specified ToolPalette catalog path: " + readOnly.toUtf8() +
@@ -145,8 +71,7 @@ TEST_F(PaletteManager, readOnlyFolder_isReportedAndSkipped)
             std::string::npos)
       << fakehost::state().printed;
   EXPECT_TRUE(catalogNames().empty());
-  QFile::setPermissions(m_dir.filePath(QStringLiteral("ro")), QFileDevice::ReadOwner | QFileDevice::WriteOwner |
-                                                                   QFileDevice::ExeOwner);
+  QFile::setPermissions(readOnly.qstring(), QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
 }
 
 TEST_F(PaletteManager, refresh_followsAddedAndRemovedFolders)

@@ -263,17 +263,65 @@ TEST_F(Filers, missingPaletteElement_showsMessageAndLeavesRoot)
   hostSetMessageBoxHandler(nullptr);
 }
 
-TEST_F(Filers, brokenDocument_readsWhatParsedAndNeverCrashes)
+namespace {
+
+struct BrokenRow
 {
-  bool ok = true;
-  readCatalog("", &ok);
-  EXPECT_FALSE(ok); // no "Catalog" element
-  readCatalog("<NotACatalog/>", &ok);
-  EXPECT_FALSE(ok);
-  auto truncated = readCatalog("<Catalog><ItemName>A</ItemName><TstItem><ItemName>B</Item", &ok);
-  EXPECT_LE(truncated->m_children.size(), 1u);
-  readPalette("<Palette><ItemName>A</ItemName></Pal");
+  const char* name;
+  std::string xml;
+  bool opened;            // what openCatalog answers
+  const char* nameRead;   // the root's ItemName afterwards
+  const char* problem;    // a part of readProblem(); "" when it parsed whole
+  bool refused;
+};
+
+void PrintTo(const BrokenRow& row, std::ostream* os)
+{
+  *os << row.name;
 }
+
+std::string nested(int depth)
+{
+  std::string xml = "<Catalog><ItemName>deep</ItemName>";
+  for (int i = 0; i < depth; ++i)
+    xml += "<a x=\"<b>\">";
+  for (int i = 0; i < depth; ++i)
+    xml += "</a>";
+  return xml + "</Catalog>";
+}
+
+class BrokenDocuments : public Filers, public ::testing::WithParamInterface<BrokenRow>
+{
+};
+
+} // namespace
+
+TEST_P(BrokenDocuments, readAsFarAsTheyGo_andSaySo)
+{
+  const BrokenRow& row = GetParam();
+  auto root = TstItem::create("Catalog");
+  OdStreamBufPtr stream = OdMemoryStream::createNew(std::vector<char>(row.xml.begin(), row.xml.end()));
+  OdTcFilerPtr filer = OdTcCatalogFilerImpl::createObject();
+  EXPECT_EQ(filer->openCatalog(stream, root, false), row.opened);
+  EXPECT_EQ(root->m_name, row.nameRead);
+  const auto* base = static_cast<OdTcFilerImplBase*>(filer.get());
+  if (*row.problem)
+    EXPECT_NE(base->readProblem().find(row.problem), -1) << base->readProblem();
+  else
+    EXPECT_TRUE(base->readProblem().isEmpty()) << base->readProblem();
+  EXPECT_EQ(base->isRefused(), row.refused);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    rows, BrokenDocuments,
+    ::testing::Values(BrokenRow{"empty", "", false, "", "breaks off", false},
+                      BrokenRow{"otherRoot", "<NotACatalog/>", false, "", "", false},
+                      BrokenRow{"randomBytes", "\x01\x02garbage<<", false, "", "breaks off", false},
+                      BrokenRow{"cutShort", "<Catalog><ItemName>A</ItemName><TstItem><ItemName>B</Item", true, "A",
+                                "breaks off at line 1", false},
+                      BrokenRow{"deepButReal", nested(200), true, "deep", "", false},
+                      BrokenRow{"tooDeep", nested(20000), false, "", "deeper than 256 levels", true}),
+    [](const ::testing::TestParamInfo<BrokenRow>& info) { return std::string(info.param.name); });
 
 TEST_F(Filers, foreignPalette_readsPartAfterPaletteContentWithToolsAsValues)
 {

@@ -126,3 +126,18 @@ TEST_F(PathTokens, decode_roundTripsAndLeavesUnknownNumbers)
   OdString q = "%UserProfileFolder%/a";
   EXPECT_FALSE(decodePathTokens(q, noProfile));
 }
+
+TEST(CleanFileName, keepsTheFileInItsFolder)
+{
+  EXPECT_EQ(cleanFileName("../../../../outside/evil"), "outsideevil");
+  EXPECT_EQ(cleanFileName("a\\..\\b"), "ab");
+  EXPECT_EQ(cleanFileName("...."), "Palette");
+  EXPECT_EQ(cleanFileName("."), "Palette");
+  EXPECT_EQ(cleanFileName("Walls <1>: \"x\"?*|,=';\t"), "Walls 1 x");
+  EXPECT_EQ(cleanFileName("Стены"), "Стены");
+  // A name of any length leaves room in the 255 bytes of a file name, and
+  // is not cut inside a character.
+  const OdString longName(u'Ж', 100000);
+  const OdString clean = cleanFileName(longName);
+  EXPECT_EQ(clean, OdString(u'Ж', 60));
+}

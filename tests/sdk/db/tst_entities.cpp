@@ -221,16 +221,26 @@ TEST(OdDbHatch, data_roundTripsLoopsPatternAndGradient)
   EXPECT_EQ(h->numLoops(), 2) << "the loops stay";
 }
 
-TEST(OdDbHatch, brokenLoopData_isReadWithoutCrash)
+TEST(OdDbHatch, loopCountPromisingMore_readsTheLoopThatIsThere)
 {
   OdDbHatchPtr h = OdDbHatch::createObject();
-  auto& pairs = h->dxfPairs();
+  OdDbHatch::Data d = h->data();
+  OdDbHatch::Loop square;
+  square.vertices = {{0, 0}, {10, 0}, {10, 10}, {0, 10}};
+  square.bulges = {0, 0, 0, 0};
+  d.loops = {square};
+  h->setData(d);
   // A loop count that promises more than the file holds.
-  for (auto& p : pairs)
-    if (p.code == 91)
+  int promised = 0;
+  for (auto& p : h->dxfPairs())
+    if (p.code == 91 && ++promised)
       p.value = "5";
-  const OdDbHatch::Data d = h->data();
-  EXPECT_LE(d.loops.size(), 5u);
+  ASSERT_EQ(promised, 1);
+  const OdDbHatch::Data back = h->data();
+  ASSERT_GE(back.loops.size(), 1u);
+  EXPECT_LE(back.loops.size(), 5u);
+  EXPECT_EQ(back.loops[0].vertices.size(), 4u);
+  EXPECT_EQ(back.loops[0].vertices[2].x, 10.0);
 }
 
 TEST(OdDbSpline, nurbsData_roundTrips)

@@ -3,10 +3,15 @@
 #include "sdk/kernel/OdTimeStamp.h"
 #include "sdk/kernel/OdVariant.h"
 
+#include "tests/support/Unprivileged.h"
+
 #include <QDir>
 #include <QFile>
 #include <QRegularExpression>
 #include <QTemporaryDir>
+
+#include <sys/stat.h>
+#include <unistd.h>
 
 #include <gtest/gtest.h>
 
@@ -93,6 +98,49 @@ TEST(SystemServices, createFile_followsDisposition)
   EXPECT_EQ(services->createFile(path)->length(), 0u);
   EXPECT_TRUE(services->accessFile(path, Oda::kFileRead));
   EXPECT_FALSE(services->accessFile(OdString(dir.filePath(QStringLiteral("none"))), Oda::kFileRead));
+}
+
+// What is not a regular file is refused at once: a FIFO would block the
+// opening for ever, a device would be read without end.
+TEST(SystemServices, createFile_opensOnlyRegularFiles)
+{
+  ::alarm(30);
+  QTemporaryDir dir;
+  const QString fifo = dir.filePath(QStringLiteral("pipe.vtc"));
+  ASSERT_EQ(::mkfifo(QFile::encodeName(fifo).constData(), 0644), 0);
+  for (const QString& path : {fifo, QStringLiteral("/dev/zero"), dir.path()}) {
+    try {
+      odrxSystemServices()->createFile(OdString(path));
+      ADD_FAILURE() << path.toStdString() << " was opened";
+    } catch (const OdError_FileException& e) {
+      EXPECT_EQ(e.code(), eFileAccessErr) << path.toStdString();
+      EXPECT_EQ(e.reason(), OdString("it is not a regular file")) << path.toStdString();
+    }
+  }
+  ::alarm(0);
+}
+
+TEST(SystemServices, createFile_givesTheSystemsReason)
+{
+  if (tst::reranUnprivileged())
+    return;
+  QTemporaryDir dir;
+  const QString path = dir.filePath(QStringLiteral("locked.vtc"));
+  QFile(path).open(QIODevice::WriteOnly);
+  ASSERT_EQ(::chmod(QFile::encodeName(path).constData(), 0), 0);
+  try {
+    odrxSystemServices()->createFile(OdString(path));
+    ADD_FAILURE() << "a file without permissions was opened";
+  } catch (const OdError_FileException& e) {
+    EXPECT_EQ(e.code(), eFileAccessErr);
+    EXPECT_EQ(e.reason(), OdString("Permission denied"));
+  }
+  try {
+    odrxSystemServices()->createFile(OdString(dir.filePath(QStringLiteral("none/x.vtc"))));
+    ADD_FAILURE() << "a missing file was opened";
+  } catch (const OdError_FileException& e) {
+    EXPECT_EQ(e.code(), eFileNotFound);
+  }
 }
 
 TEST(OdMemoryStream, readsWhatWasWritten)
