@@ -67,6 +67,24 @@ void odtcUninitReactor(OdTcCatalogItem* item)
   });
 }
 
+bool odtcGetStateValue(const char* name, CRkVariant& value)
+{
+  bool found = false;
+  tcGuarded(failure("odtcGetStateValue"), [&] {
+    if (OdTcStateSaverImpl* saver = stateSaver())
+      found = saver->getValue(name, value);
+  });
+  return found;
+}
+
+void odtcSetStateValue(const char* name, const CRkVariant& value)
+{
+  tcGuarded(failure("odtcSetStateValue"), [&] {
+    if (OdTcStateSaverImpl* saver = stateSaver())
+      saver->setValue(name, value);
+  });
+}
+
 } // namespace tc
 
 const char* odtcCatalogPathsUtf8()
