@@ -2,6 +2,7 @@
 #include "module/TcExports.h"
 
 #include "module/TcModuleState.h"
+#include "module/TcUiStateSaver.h"
 
 #include "host/TcGuard.h"
 
@@ -83,6 +84,11 @@ void odtcSetStateValue(const char* name, const CRkVariant& value)
     if (OdTcStateSaverImpl* saver = stateSaver())
       saver->setValue(name, value);
   });
+}
+
+bool odtcGetStateDefault(const char* name, CRkVariant& value)
+{
+  return stateDefaultValue(name, value);
 }
 
 } // namespace tc

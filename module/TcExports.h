@@ -23,6 +23,9 @@ void odtcUninitReactor(OdTcCatalogItem* item);
 // without the host's branch for them, nothing is read or kept.
 bool odtcGetStateValue(const char* name, CRkVariant& value);
 void odtcSetStateValue(const char* name, const CRkVariant& value);
+// The default the window takes when the value is missing; false for the
+// values whose default depends on the window or that have none.
+bool odtcGetStateDefault(const char* name, CRkVariant& value);
 
 } // namespace tc
 

@@ -3,9 +3,35 @@
 
 #include "host/TcHost.h"
 
+#include <cstring>
 #include <exception>
 
 namespace tc {
+
+namespace {
+
+struct StateDefault
+{
+  const char* name;
+  std::int32_t value;
+};
+
+constexpr StateDefault kStateDefaults[] = {
+    {"ActiveView", 1},  {"Col0", 200}, {"Col1", 200}, {"SplitterPos", 151}, {"MultitoolConvertMessage", 0},
+    {"UnsupportedToolsMessage", 0}};
+
+} // namespace
+
+bool stateDefaultValue(const char* name, CRkVariant& value)
+{
+  for (const StateDefault& row : kStateDefaults) {
+    if (name && std::strcmp(name, row.name) == 0) {
+      value = CRkVariant(row.value);
+      return true;
+    }
+  }
+  return false;
+}
 
 CRkPtr<IConfigManager> openStateNode()
 {
@@ -25,7 +51,7 @@ CRkPtr<IConfigManager> openStateNode()
       return CRkPtr<IConfigManager>();
     return node;
   } catch (const std::exception&) {
-  } catch (const OdError&) {
+    // OdError among them: a broken configuration keeps nothing.
   }
   return CRkPtr<IConfigManager>();
 }

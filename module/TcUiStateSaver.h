@@ -13,6 +13,12 @@ namespace tc {
 // "cmddata", made when missing; null when the host has no "cmddata" or no
 // configuration at all, or when asking it fails.
 CRkPtr<IConfigManager> openStateNode();
+// The default a window takes for a remembered value that is missing, for
+// the values that have a fixed one ("ActiveView", "Col0", "Col1",
+// "SplitterPos", the two message marks); false for those whose default
+// depends on the window ("NameClmn", "DlgW", ...), those without one
+// ("ExpandedItems", "IconSize", ...) and unknown names.
+bool stateDefaultValue(const char* name, CRkVariant& value);
 
 class TcUiStateSaver : public ITcUiStateSaver
 {

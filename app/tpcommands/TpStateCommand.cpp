@@ -33,12 +33,16 @@ void rememberedState(HostCommandOutput& out, HostDocument* document)
   if (equals >= 0)
     tc::odtcSetStateValue(key.c_str(), valueOfText(input.mid(equals + 1)));
   CRkVariant value;
-  if (!tc::odtcGetStateValue(key.c_str(), value))
-    out.print("%s is not remembered.\n", name);
-  else if (value.type() == CRkVariant::kInt32)
+  if (!tc::odtcGetStateValue(key.c_str(), value)) {
+    if (tc::odtcGetStateDefault(key.c_str(), value))
+      out.print("%s is not remembered: the window takes %d.\n", name, value.toInt32());
+    else
+      out.print("%s is not remembered.\n", name);
+  } else if (value.type() == CRkVariant::kInt32) {
     out.print("%s = %d (number)\n", name, value.toInt32());
-  else
+  } else {
     out.print("%s = \"%s\" (text)\n", name, value.toString());
+  }
 }
 
 } // namespace tpcommands

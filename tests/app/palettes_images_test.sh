@@ -53,11 +53,12 @@ grep -qF 'src="acadbtn.xmx" resource="TEXT"' "$shared/VdTcCatalog.vtc" || fail "
 output_of "$home/out1.txt" 3 >"$home/list2.txt"
 diff -u "$home/expected1.txt" "$home/list2.txt" || fail "the listing after the save differs"
 
-printf 'ToolPalettesState\nActiveView=2\nToolPalettesState\nExpandedItems={A0000000-0000-4000-8000-0000000000C1}|{FFFFFFFF-0000-4000-8000-000000000000}|\nToolPalettesState\nIconSize\nExit\n' |
+printf 'ToolPalettesState\nActiveView=2\nToolPalettesState\nExpandedItems={A0000000-0000-4000-8000-0000000000C1}|{FFFFFFFF-0000-4000-8000-000000000000}|\nToolPalettesState\nIconSize\nToolPalettesState\nSplitterPos\nExit\n' |
   "$console" >"$home/out3.txt" 2>&1
 cat "$home/out3.txt"
 grep -qF 'ActiveView = 2 (number)' "$home/out3.txt" || fail "ActiveView was not set"
 grep -qF 'IconSize is not remembered.' "$home/out3.txt" || fail "a value never set reads as remembered"
+grep -qF 'SplitterPos is not remembered: the window takes 151.' "$home/out3.txt" || fail "the default of SplitterPos is not told"
 
 # A new run of the host reads back what the last one kept, the identifier
 # of a catalog that no longer exists included.

@@ -126,3 +126,31 @@ TEST_F(StateSaver, exports_reachTheStartedModulesSaver_andNothingWithoutIt)
   module->uninitApp();
   EXPECT_EQ(fakehost::state().toolPaletteManager.at("SplitterPos").toInt32(), 180);
 }
+
+TEST_F(StateSaver, defaults_ofTheValuesThatHaveAFixedOne)
+{
+  const struct
+  {
+    const char* name;
+    bool fixed;
+    std::int32_t value;
+  } rows[] = {{"ActiveView", true, 1},
+              {"Col0", true, 200},
+              {"Col1", true, 200},
+              {"SplitterPos", true, 151},
+              {"MultitoolConvertMessage", true, 0},
+              {"UnsupportedToolsMessage", true, 0},
+              {"Col2", false, 0},
+              {"NameClmn", false, 0},
+              {"IconSize", false, 0},
+              {"ExpandedItems", false, 0},
+              {"activeview", false, 0},
+              {nullptr, false, 0}};
+  for (const auto& row : rows) {
+    CRkVariant value;
+    EXPECT_EQ(odtcGetStateDefault(row.name, value), row.fixed) << (row.name ? row.name : "null");
+    if (row.fixed) {
+      EXPECT_EQ(value.toInt32(), row.value) << row.name;
+    }
+  }
+}
