@@ -11,7 +11,11 @@
 
 #include "hostsdk/core/HostServices.h"
 
+#include <QDir>
+#include <QFileInfo>
 #include <QImage>
+
+#include <utility>
 
 namespace tpcommands {
 
@@ -35,6 +39,7 @@ public:
       flags += " locked";
     if (catalog == current)
       flags += " current";
+    m_ownerFile = catalog->path();
     item(0, "catalog", catalog, flags);
     auto groups = catalog->enumerateGroups();
     while (OdTcCatalogItem* group = groups->next())
@@ -56,8 +61,8 @@ private:
   }
 
   // "image CLASS WxH SOURCE loaded|missing": the source is the file's full
-  // path, the resource name of a button picture, or the source as written
-  // when there is neither.
+  // path, the resource name of a button picture, or, for a file not found,
+  // where it was looked for beside the file the item is kept in.
   void images(OdTcCatalogItem* item, int depth)
   {
     OdTcImageList* list = item->images();
@@ -65,6 +70,8 @@ private:
     while (OdTcImage* image = images ? images->next() : nullptr) {
       const bool button = image->src() == "%ProgramBtnRes%" || image->src() == "acadbtn.xmx";
       OdString source = button ? image->resource() : image->file();
+      if (source.isEmpty() && !m_ownerFile.isEmpty())
+        source = QDir::cleanPath(QFileInfo(m_ownerFile.qstring()).path() + u'/' + image->src().qstring());
       if (source.isEmpty())
         source = image->src();
       const bool loaded = !image->getBitmap().isNull();
@@ -76,9 +83,12 @@ private:
 
   void palette(OdTcToolPalette* palette, int depth)
   {
+    // A palette and its tools keep their pictures beside the palette's file.
+    const OdString catalogFile = std::exchange(m_ownerFile, palette->path());
     item(depth, "palette", palette);
     for (const OdTcCatalogItemPtr& tool : palette->sortedTools())
       item(depth + 1, "tool", tool);
+    m_ownerFile = catalogFile;
   }
 
   void group(OdTcCatalogItem* group, int depth)
@@ -98,6 +108,7 @@ private:
 
   HostCommandOutput& m_out;
   bool m_withImages;
+  OdString m_ownerFile;
 };
 
 } // namespace

@@ -37,7 +37,7 @@ catalog Pictures
   palette Shapes
     image 1 16x16 $images/Shapes16.png loaded
     image 3 32x32 ACAD_RCDATA_32_LINE loaded
-    image 4 64x64 /Images/Gone64.png missing
+    image 4 64x64 $images/Gone64.png missing
 catalog Tool Palettes default current
 EOT
 diff -u "$home/expected1.txt" "$home/list1.txt" || fail "the listing of pictures differs"
