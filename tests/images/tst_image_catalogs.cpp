@@ -110,8 +110,9 @@ TEST_F(ImageCatalogs, save_writesNewPicturesBesideThePalette_andLetsThemGo)
   EXPECT_EQ(QImage(imagesFolder() + "/Chair32.png").size(), QSize(24, 24));
   for (const OdTcImagePtr& image : pictures) {
     EXPECT_FALSE(holds(image)) << "let go after writing: " << image->src().toUtf8();
-    if (!isImageResourceMarker(image->src()))
+    if (!isImageResourceMarker(image->src())) {
       EXPECT_EQ(image->file(), OdString(imagesFolder()) + image->src().mid(7));
+    }
   }
   const QStringList written = allFiles();
 
@@ -130,8 +131,9 @@ TEST_F(ImageCatalogs, save_writesNewPicturesBesideThePalette_andLetsThemGo)
   for (OdTcImage* image : back) {
     EXPECT_FALSE(holds(image)) << "nothing is loaded before it is asked for";
     EXPECT_FALSE(image->getBitmap().isNull()) << image->src().toUtf8();
-    if (!isImageResourceMarker(image->src()))
+    if (!isImageResourceMarker(image->src())) {
       EXPECT_TRUE(tst::samePixels(image->getBitmap(), drawn[image->src()])) << image->src().toUtf8();
+    }
   }
   EXPECT_EQ(back[1]->getSizeClass(), 2);
   EXPECT_EQ(back[1]->cx(), 24);

@@ -82,8 +82,9 @@ TEST_P(SaveFormat, fileReadsBackAtItsSize)
   const QImage back = reader.read();
   ASSERT_FALSE(back.isNull()) << reader.errorString().toStdString();
   EXPECT_EQ(back.size(), QSize(64, 64));
-  if (c.lossless)
+  if (c.lossless) {
     EXPECT_TRUE(tst::samePixels(back, original));
+  }
   // giflib makes files only their owner can read; ours are as any new file.
   struct stat info {};
   ASSERT_EQ(::stat(path(c.written).toUtf8().c_str(), &info), 0);
