@@ -2,6 +2,7 @@
 #include "images/OdTcImageListImpl.h"
 
 #include "images/OdTcImageImpl.h"
+#include "model/OdTcCatalogItem.h"
 
 #include "sdk/kernel/OdWcstol.h"
 
@@ -51,6 +52,18 @@ void OdTcImageListImpl::copyFrom(const OdRxObject* source)
   }
 }
 
+void OdTcImageListImpl::setOption(std::uint32_t option)
+{
+  m_option = option;
+  // The list is saved with the item that shows it.
+  for (OdTcPersist* owner = parent(); owner && owner->parent() != owner; owner = owner->parent()) {
+    if (OdTcCatalogItemPtr item = OdTcCatalogItem::cast(owner)) {
+      item->setModified();
+      break;
+    }
+  }
+}
+
 void OdTcImageListImpl::addImage(OdTcImage* image)
 {
   if (!image)
@@ -59,10 +72,12 @@ void OdTcImageListImpl::addImage(OdTcImage* image)
   m_images.append(OdTcImagePtr(image));
 }
 
-void OdTcImageListImpl::removeAll(bool)
+void OdTcImageListImpl::removeAll(bool withFiles)
 {
-  // Picture files next to the catalog are deleted with the image files of
-  // the images module; the list itself only forgets them.
+  if (withFiles)
+    for (const OdTcImagePtr& image : m_images)
+      if (auto* impl = dynamic_cast<OdTcImageImpl*>(image.get()))
+        impl->deleteFile();
   m_images.clear();
 }
 
@@ -112,6 +127,13 @@ void OdTcImageListImpl::normalize()
     }
     addImage(OdTcImageImpl::createNew(3, kProgramBtnRes, name));
     addImage(OdTcImageImpl::createNew(4, kProgramBtnRes, name));
+  }
+  // The pictures come into memory under names of their own, so that the
+  // next write puts them beside this list's palette, wherever they were read.
+  for (const OdTcImagePtr& image : m_images) {
+    image->loadFile();
+    if (!image->src().isEmpty() && !isImageResourceMarker(image->src()))
+      image->setSource(uniqueBlockImageSource(), image->resource());
   }
   if (!hasSmall)
     if (OdTcImage* big = image(3))

@@ -21,9 +21,11 @@ public:
   void copyFrom(const OdRxObject* source) override;
   bool hasChildren() const override { return !m_images.isEmpty(); }
 
-  void setOption(std::uint32_t option) override { m_option = option; }
+  // Marks the item the list belongs to as changed.
+  void setOption(std::uint32_t option) override;
   std::uint32_t getOption() const override { return m_option; }
   void addImage(OdTcImage* image) override;
+  // With files, each picture's file beside its palette is deleted first.
   void removeAll(bool withFiles) override;
   OdTcEnumPtr<OdTcImage> newEnumerator() const override;
   OdTcImage* image(int sizeClass) const override;

@@ -2,6 +2,7 @@
 #include "module/TcExports.h"
 
 #include "module/TcModuleState.h"
+#include "module/TcUiStateSaver.h"
 
 #include "host/TcGuard.h"
 
@@ -65,6 +66,29 @@ void odtcUninitReactor(OdTcCatalogItem* item)
     if (OdTcCatalogItemReactor* reactor = view->catalogItemReactor())
       item->removeReactor(reactor);
   });
+}
+
+bool odtcGetStateValue(const char* name, CRkVariant& value)
+{
+  bool found = false;
+  tcGuarded(failure("odtcGetStateValue"), [&] {
+    if (OdTcStateSaverImpl* saver = stateSaver())
+      found = saver->getValue(name, value);
+  });
+  return found;
+}
+
+void odtcSetStateValue(const char* name, const CRkVariant& value)
+{
+  tcGuarded(failure("odtcSetStateValue"), [&] {
+    if (OdTcStateSaverImpl* saver = stateSaver())
+      saver->setValue(name, value);
+  });
+}
+
+bool odtcGetStateDefault(const char* name, CRkVariant& value)
+{
+  return stateDefaultValue(name, value);
 }
 
 } // namespace tc

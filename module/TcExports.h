@@ -2,6 +2,8 @@
 // a failure is told on the command line and gives the empty answer.
 #pragma once
 
+#include "hostsdk/core/CRkVariant.h"
+
 namespace tc {
 
 class OdTcPaletteManager;
@@ -15,6 +17,15 @@ OdTcCatalogItem* odtcGetSelectedItem();
 // Adds, or removes, the tree's reactor to an item; nothing without the tree.
 void odtcInitReactor(OdTcCatalogItem* item);
 void odtcUninitReactor(OdTcCatalogItem* item);
+// The palette window's remembered values ("ActiveView", "IconSize", ...),
+// kept in the host's configuration from one run to the next: for a host
+// that shows or sets them without the window. Without the module, or
+// without the host's branch for them, nothing is read or kept.
+bool odtcGetStateValue(const char* name, CRkVariant& value);
+void odtcSetStateValue(const char* name, const CRkVariant& value);
+// The default the window takes when the value is missing; false for the
+// values whose default depends on the window or that have none.
+bool odtcGetStateDefault(const char* name, CRkVariant& value);
 
 } // namespace tc
 

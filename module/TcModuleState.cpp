@@ -44,6 +44,7 @@ TcModuleState::TcModuleState()
 {
   m_valueStorage = OdTcValueStorageImpl::createNew();
   m_paletteManager = OdTcPaletteManagerImpl::createNew(m_valueStorage);
+  m_stateSaver = OdTcStateSaverImpl::createNew();
   m_paletteManager->loadCatalogs();
   m_paletteVisible = false;
   if (HostEdCompletion::Registry* registry = completionRegistry()) {
@@ -61,6 +62,7 @@ void TcModuleState::releaseObjects()
 {
   m_valueStorage = nullptr;
   m_paletteManager = nullptr;
+  m_stateSaver = nullptr;
   if (std::exchange(m_offersTools, false))
     if (HostEdCompletion::Registry* registry = completionRegistry())
       registry->removeProvider("tools", nullptr);
@@ -97,6 +99,11 @@ OdTcValueStorageImpl* valueStorage()
 OdTcPaletteManager* paletteManager()
 {
   return g_state ? g_state->paletteManager() : nullptr;
+}
+
+OdTcStateSaverImpl* stateSaver()
+{
+  return g_state ? g_state->stateSaver() : nullptr;
 }
 
 TcModuleState& startedModule()

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "module/OdTcPaletteManager.h"
+#include "module/OdTcStateSaverImpl.h"
 #include "module/OdTcValueStorageImpl.h"
 #include "module/TcClassTable.h"
 #include "module/TcUiInterfaces.h"
@@ -34,6 +35,7 @@ public:
 
   OdTcValueStorageImpl* valueStorage() const { return m_valueStorage; }
   OdTcPaletteManager* paletteManager() const { return m_paletteManager; }
+  OdTcStateSaverImpl* stateSaver() const { return m_stateSaver; }
 
   // The palette set window: null until first shown, and owned by the
   // docking frame, never freed here.
@@ -71,9 +73,10 @@ private:
   TcClassRegistration m_classes;
   FileLayer m_files;
   // The module-wide objects, in the order of their making. editorReactor,
-  // conveyor, stateSaver, toolBuffer and commandConveyor join here.
+  // conveyor, toolBuffer and commandConveyor join here.
   OdTcValueStorageImplPtr m_valueStorage;
   OdTcPaletteManagerPtr m_paletteManager;
+  OdTcStateSaverImplPtr m_stateSaver;
   bool m_offersTools = false;
   ITcUiPaletteSet* m_paletteSet = nullptr; // not owned
   bool m_paletteVisible = false;
@@ -82,6 +85,7 @@ private:
 // The module-wide objects of the started module; null when it is not.
 OdTcValueStorageImpl* valueStorage();
 OdTcPaletteManager* paletteManager();
+OdTcStateSaverImpl* stateSaver();
 // The started module's state; throws OdError, with a text for the user,
 // when the module is not started.
 TcModuleState& startedModule();

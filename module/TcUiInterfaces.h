@@ -3,6 +3,8 @@
 // nothing.
 #pragma once
 
+#include "hostsdk/core/CRkVariant.h"
+
 namespace tc {
 
 class OdTcCatalogItem;
@@ -57,6 +59,20 @@ public:
 
 protected:
   ~ITcUiListView() = default;
+};
+
+// Small named values that the windows keep from one run of the host to the
+// next. Without the host's branch for them nothing is kept, and every
+// value reads as missing.
+class ITcUiStateSaver : public ITcUnknown
+{
+public:
+  virtual void setValue(const char* name, const CRkVariant& value) = 0;
+  // False when there is no such value; the caller takes its default.
+  virtual bool getValue(const char* name, CRkVariant& value) = 0;
+
+protected:
+  ~ITcUiStateSaver() = default;
 };
 
 } // namespace tc

@@ -3,6 +3,7 @@
 
 #include "model/OdTcCatalog.h"
 #include "model/OdTcGroup.h"
+#include "model/OdTcImageList.h"
 #include "model/OdTcPaletteSoftRef.h"
 #include "model/OdTcToolPalette.h"
 #include "module/OdTcPaletteManager.h"
@@ -10,64 +11,109 @@
 
 #include "hostsdk/core/HostServices.h"
 
+#include <QDir>
+#include <QFileInfo>
+#include <QImage>
+
+#include <utility>
+
 namespace tpcommands {
 
 namespace {
 
 using namespace tc;
 
-void line(HostCommandOutput& out, int depth, const char* kind, const OdString& name,
-          const OdString& flags = OdString())
+// Prints the tree of catalogs; with pictures, each item is followed by one
+// line per picture.
+class Lister
 {
-  out.print("%s\n", OdString(u' ', depth * 2) + kind + " " + name + flags);
-}
+public:
+  Lister(HostCommandOutput& out, bool withImages) : m_out(out), m_withImages(withImages) {}
 
-void listPalette(HostCommandOutput& out, OdTcToolPalette* palette, int depth)
-{
-  line(out, depth, "palette", palette->displayName());
-  for (const OdTcCatalogItemPtr& tool : palette->sortedTools())
-    line(out, depth + 1, "tool", tool->displayName());
-}
-
-void listGroup(HostCommandOutput& out, OdTcCatalogItem* group, int depth)
-{
-  line(out, depth, "group", group->displayName());
-  auto children = group->children();
-  while (OdTcCatalogItem* item = children ? children->next() : nullptr) {
-    if (OdTcGroup::cast(item)) {
-      listGroup(out, item, depth + 1);
-    } else if (OdTcPaletteSoftRefPtr ref = OdTcPaletteSoftRef::cast(item)) {
-      // A reference whose palette is gone shows nothing.
-      if (OdTcToolPalette* palette = ref->palette())
-        listPalette(out, palette, depth + 1);
+  void catalog(OdTcCatalog* catalog, OdTcCatalog* current)
+  {
+    OdString flags;
+    if (catalog->isDefaultCatalog())
+      flags += " default";
+    if (catalog->isLocked())
+      flags += " locked";
+    if (catalog == current)
+      flags += " current";
+    m_ownerFile = catalog->path();
+    item(0, "catalog", catalog, flags);
+    auto groups = catalog->enumerateGroups();
+    while (OdTcCatalogItem* group = groups->next())
+      this->group(group, 1);
+    auto palettes = catalog->enumeratePalettes();
+    while (OdTcCatalogItem* item = palettes->next()) {
+      OdTcToolPalettePtr palette = OdTcToolPalette::cast(item);
+      if (palette && !palette->isGrouped())
+        this->palette(palette, 1);
     }
   }
-}
 
-void listCatalog(HostCommandOutput& out, OdTcCatalog* catalog, OdTcCatalog* current)
-{
-  OdString flags;
-  if (catalog->isDefaultCatalog())
-    flags += " default";
-  if (catalog->isLocked())
-    flags += " locked";
-  if (catalog == current)
-    flags += " current";
-  line(out, 0, "catalog", catalog->displayName(), flags);
-  auto groups = catalog->enumerateGroups();
-  while (OdTcCatalogItem* group = groups->next())
-    listGroup(out, group, 1);
-  auto palettes = catalog->enumeratePalettes();
-  while (OdTcCatalogItem* item = palettes->next()) {
-    OdTcToolPalettePtr palette = OdTcToolPalette::cast(item);
-    if (palette && !palette->isGrouped())
-      listPalette(out, palette, 1);
+private:
+  void item(int depth, const char* kind, OdTcCatalogItem* item, const OdString& flags = OdString())
+  {
+    m_out.print("%s\n", OdString(u' ', depth * 2) + kind + " " + item->displayName() + flags);
+    if (m_withImages)
+      images(item, depth + 1);
   }
-}
+
+  // "image CLASS WxH SOURCE loaded|missing": the source is the file's full
+  // path, the resource name of a button picture, or, for a file not found,
+  // where it was looked for beside the file the item is kept in.
+  void images(OdTcCatalogItem* item, int depth)
+  {
+    OdTcImageList* list = item->images();
+    auto images = list ? list->newEnumerator() : OdTcEnumPtr<OdTcImage>();
+    while (OdTcImage* image = images ? images->next() : nullptr) {
+      const bool button = image->src() == "%ProgramBtnRes%" || image->src() == "acadbtn.xmx";
+      OdString source = button ? image->resource() : image->file();
+      if (source.isEmpty() && !m_ownerFile.isEmpty())
+        source = QDir::cleanPath(QFileInfo(m_ownerFile.qstring()).path() + u'/' + image->src().qstring());
+      if (source.isEmpty())
+        source = image->src();
+      const bool loaded = !image->getBitmap().isNull();
+      m_out.print("%s\n", OdString(u' ', depth * 2) +
+                              OdString::formatted("image %d %dx%d %s %s", image->getSizeClass(), image->cx(),
+                                                  image->cy(), source, loaded ? "loaded" : "missing"));
+    }
+  }
+
+  void palette(OdTcToolPalette* palette, int depth)
+  {
+    // A palette and its tools keep their pictures beside the palette's file.
+    const OdString catalogFile = std::exchange(m_ownerFile, palette->path());
+    item(depth, "palette", palette);
+    for (const OdTcCatalogItemPtr& tool : palette->sortedTools())
+      item(depth + 1, "tool", tool);
+    m_ownerFile = catalogFile;
+  }
+
+  void group(OdTcCatalogItem* group, int depth)
+  {
+    item(depth, "group", group);
+    auto children = group->children();
+    while (OdTcCatalogItem* child = children ? children->next() : nullptr) {
+      if (OdTcGroup::cast(child)) {
+        this->group(child, depth + 1);
+      } else if (OdTcPaletteSoftRefPtr ref = OdTcPaletteSoftRef::cast(child)) {
+        // A reference whose palette is gone shows nothing.
+        if (OdTcToolPalette* palette = ref->palette())
+          this->palette(palette, depth + 1);
+      }
+    }
+  }
+
+  HostCommandOutput& m_out;
+  bool m_withImages;
+  OdString m_ownerFile;
+};
 
 } // namespace
 
-void listCatalogs(HostCommandOutput& out)
+void listCatalogs(HostCommandOutput& out, bool withImages)
 {
   out.print("%s\n", OdString("paths: ") + OdString(odtcCatalogPathsUtf8()));
   OdTcPaletteManager* manager = odtcToolPaletteManager();
@@ -75,12 +121,13 @@ void listCatalogs(HostCommandOutput& out)
     out.print("%s\n", OdString("The tool palettes module is not started: there are no catalogs to list."));
     return;
   }
+  Lister lister(out, withImages);
   OdTcCatalog* current = manager->currentCatalog();
   auto catalogs = manager->catalogs();
   OdString path;
   OdTcCatalog* catalog = nullptr;
   while (catalogs->next(path, catalog))
-    listCatalog(out, catalog, current);
+    lister.catalog(catalog, current);
 }
 
 void saveCatalogs(HostCommandOutput& out)

@@ -1,7 +1,9 @@
 // The module of the reference host's tool palettes commands: it finds the
-// host by its exported lookups and registers ToolPalettesList and
-// ToolPalettesSave with the host's command factory.
+// host by its exported lookups and registers ToolPalettesList,
+// ToolPalettesImages, ToolPalettesState and ToolPalettesSave with the host's
+// command factory.
 #include "app/tpcommands/TpCatalogList.h"
+#include "app/tpcommands/TpStateCommand.h"
 
 #include "hostsdk/core/AppInterfaces.h"
 #include "hostsdk/core/CmdInterfaces.h"
@@ -40,7 +42,20 @@ void run(void (*command)(HostCommandOutput&))
 
 void toolPalettesList()
 {
-  run(&tpcommands::listCatalogs);
+  run([](HostCommandOutput& out) { tpcommands::listCatalogs(out, false); });
+}
+
+void toolPalettesImages()
+{
+  run([](HostCommandOutput& out) { tpcommands::listCatalogs(out, true); });
+}
+
+void toolPalettesState()
+{
+  run([](HostCommandOutput& out) {
+    HostServices* host = services();
+    tpcommands::rememberedState(out, host ? host->currentDocument() : nullptr);
+  });
 }
 
 void toolPalettesSave()
@@ -66,6 +81,10 @@ public:
     CRkPtr<IApp> app = CRkPtr<IApp>::attach(getApp ? getApp() : nullptr);
     if (auto factory = CRkPtr<ICmdFactory>::query(app.get())) {
       factory->registerCommandFunction("VERDANI", "ToolPalettesList", "ToolPalettesList", 0, &toolPalettesList, 0, 0);
+      factory->registerCommandFunction("VERDANI", "ToolPalettesImages", "ToolPalettesImages", 0, &toolPalettesImages,
+                                       0, 0);
+      factory->registerCommandFunction("VERDANI", "ToolPalettesState", "ToolPalettesState", 0, &toolPalettesState, 0,
+                                       0);
       factory->registerCommandFunction("VERDANI", "ToolPalettesSave", "ToolPalettesSave", 0, &toolPalettesSave, 0, 0);
     }
   }

@@ -67,6 +67,16 @@ bool Fio_IsWritableDir(const OdString& folder)
   return probe.open();
 }
 
+bool Fio_DeleteFile(const OdString& path, OdString* reason)
+{
+  QFile file(path.qstring());
+  if (!path.isEmpty() && file.remove())
+    return true;
+  if (reason)
+    *reason = path.isEmpty() ? OdString("no file was named") : OdString(file.errorString());
+  return false;
+}
+
 namespace {
 HostMessageBoxHandler g_messageBoxHandler = nullptr;
 } // namespace

@@ -23,6 +23,10 @@ bool Fio_IsFileExist(const OdString& path);
 // read-only mounts.
 bool Fio_IsWritableDir(const OdString& folder);
 
+// Deletes a file (a link itself, never what it points to); false, with the
+// system's reason when `reason` is given, when it cannot.
+bool Fio_DeleteFile(const OdString& path, OdString* reason = nullptr);
+
 // Message boxes of the host. Styles as the host knows them: 0 OK, 1 OK and
 // Cancel, 4 Yes and No, 3 Yes, No and Cancel; plus 16 error, 32 question,
 // 48 warning, 64 information. Answers: 1 OK, 2 Cancel, 6 Yes, 7 No.

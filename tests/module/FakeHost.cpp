@@ -115,13 +115,69 @@ public:
   std::vector<std::string> folderNames() const override { return {}; }
 };
 
+// A folder of values kept in the fake host's state.
+class ValueFolder : public CRkUnknownImpl<IConfigManager>
+{
+public:
+  ValueFolder(const char* name, std::map<std::string, CRkVariant>& values) : m_name(name), m_values(values) {}
+  CXStringW name() const override { return m_name; }
+  bool openFolder(const char*, bool, IConfigManager**) override { return false; }
+  bool deleteFolder(const char*) override { return false; }
+  bool getValue(const char* n, CRkVariant& v) const override
+  {
+    auto it = m_values.find(n);
+    if (it == m_values.end())
+      return false;
+    v = it->second;
+    return true;
+  }
+  bool setValue(const char* n, const CRkVariant& v) override
+  {
+    m_values[n] = v;
+    return true;
+  }
+  bool deleteValue(const char* n) override { return m_values.erase(n) != 0; }
+  std::vector<std::string> valueNames() const override { return {}; }
+  std::vector<std::string> folderNames() const override { return {}; }
+
+private:
+  const char* m_name;
+  std::map<std::string, CRkVariant>& m_values;
+};
+
+// "cmddata": no values of its own, the one folder "ToolPaletteManager".
+class CmdDataFolder : public CRkUnknownImpl<IConfigManager>
+{
+public:
+  CXStringW name() const override { return "cmddata"; }
+  bool openFolder(const char* n, bool create, IConfigManager** out) override
+  {
+    if (std::string(n) != "ToolPaletteManager" || !(create || state().hasToolPaletteManager))
+      return false;
+    state().hasToolPaletteManager = true;
+    *out = new ValueFolder("ToolPaletteManager", state().toolPaletteManager);
+    return true;
+  }
+  bool deleteFolder(const char*) override { return false; }
+  bool getValue(const char*, CRkVariant&) const override { return false; }
+  bool setValue(const char*, const CRkVariant&) override { return false; }
+  bool deleteValue(const char*) override { return false; }
+  std::vector<std::string> valueNames() const override { return {}; }
+  std::vector<std::string> folderNames() const override { return {}; }
+};
+
 class Root : public CRkUnknownImpl<IConfigManager>
 {
 public:
   CXStringW name() const override { return ""; }
   bool openFolder(const char* n, bool, IConfigManager** out) override
   {
-    if (std::string(n) != "Startup")
+    const std::string name(n);
+    if (name == "cmddata" && state().hasCmdData) {
+      *out = new CmdDataFolder;
+      return true;
+    }
+    if (name != "Startup")
       return false;
     *out = new StartupFolder;
     return true;

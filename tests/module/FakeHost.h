@@ -25,6 +25,11 @@ struct State
 {
   std::vector<Command> commands;
   std::map<std::string, CRkVariant> startup;      // the "Startup" folder
+  // "cmddata" exists only when the test makes it; "ToolPaletteManager" in
+  // it is made at first opening.
+  bool hasCmdData = false;
+  bool hasToolPaletteManager = false;
+  std::map<std::string, CRkVariant> toolPaletteManager;
   std::map<std::string, const HostEdCompletion::Provider*> providers;
   std::vector<HostEditorReactor*> reactors;
   std::vector<IPropReactor*> propReactors;

@@ -17,7 +17,7 @@ const char* const kCommands[] = {
     "NewDocument", "OpenDocument", "CloseDocument", "SaveDocument", "SaveAsDocument", "Exit", "Import", "SETDIR",
     "InsertBlock", "XATTACH", "INSERTRASTER", "FASTHATCHCMD", "FASTGRADIENTCMD", "LINE", "CIRCLE", "ARC", "PLINE",
     "TEXT", "ERASE", "UNDO", "REDO", "ToolPalettes", "ToolPalettesCustomizeManager", "ToolPalettesList",
-    "ToolPalettesSave", "ToolPalettesImages"};
+    "ToolPalettesSave", "ToolPalettesImages", "ToolPalettesState"};
 
 bool drawsSomething(const QImage& image)
 {
