@@ -5,6 +5,8 @@
 
 #include "model/OdTcPersist.h"
 
+#include "sdk/kernel/OdVariant.h"
+
 class QImage;
 class QPainter;
 

@@ -661,6 +661,9 @@ OdDbDatabasePtr odDxfReadFile(const OdString& path)
   if (info.suffix().compare("dwg", Qt::CaseInsensitive) == 0)
     throw OdError(eUnsupportedFormat,
                   OdString::formatted("Cannot read %s: DWG drawings are not supported; save it as DXF", path));
+  // A FIFO or a device would block the read or never end it.
+  if (!info.isFile())
+    throw OdError(eFileAccessErr, OdString::formatted("Cannot read %s: it is not a regular file", path));
   QFile f(p);
   if (!f.open(QIODevice::ReadOnly))
     throw OdError(eFileAccessErr, OdString::formatted("Cannot read %s: %s", path, f.errorString()));

@@ -13,6 +13,7 @@
 #include <algorithm>
 #include <cmath>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 namespace {
 
@@ -46,6 +47,26 @@ TEST(DxfErrors, missingFile_isNotFound)
   std::string msg;
   EXPECT_EQ(readError("/nonexistent/folder/drawing.dxf", &msg), eFileNotFound);
   EXPECT_NE(msg.find("drawing.dxf"), std::string::npos);
+}
+
+// A FIFO would block the read for ever; a folder or a device is no drawing.
+TEST(DxfErrors, whatIsNotARegularFile_isRefusedAtOnce)
+{
+  const QString fifo = QDir(DxfTest::scratchFolder()).filePath("pipe.dxf");
+  QFile::remove(fifo);
+  ASSERT_EQ(::mkfifo(fifo.toLocal8Bit().constData(), 0600), 0);
+  const QString folder = QDir(DxfTest::scratchFolder()).filePath("folder.dxf");
+  QDir().mkpath(folder);
+  for (const QString& path : {fifo, folder, QString("/dev/zero")}) {
+    try {
+      odDxfReadFile(OdString(path));
+      ADD_FAILURE() << "read " << path.toStdString();
+    } catch (const OdError& e) {
+      EXPECT_EQ(e.code(), eFileAccessErr) << path.toStdString();
+      EXPECT_NE(e.description().toUtf8().find("not a regular file"), std::string::npos);
+    }
+  }
+  QFile::remove(fifo);
 }
 
 TEST(DxfErrors, dwgDrawings_areRefusedByName)
