@@ -8,7 +8,13 @@
 #include "model/OdTcOrderLists.h"
 #include "model/OdTcPaletteUi.h"
 #include "model/OdTcProperties.h"
+#include "model/OdTcPropertyBag.h"
+#include "model/OdTcPropertyFilter.h"
 #include "module/OdTcPaletteManager.h"
+#include "properties/OdTcLineTypeElements.h"
+#include "properties/OdTcPropertyCreateInfo.h"
+#include "properties/OdTcPropertyReference.h"
+#include "properties/OdTcTextStyleTableRecordImpl.h"
 
 #include "sdk/kernel/OdRxClass.h"
 
@@ -38,19 +44,30 @@ const std::vector<Row>& rows()
 {
   static const std::vector<Row> table = {
       row<OdTcPersist>("OdTcPersist"),
+      row<OdTcSymbolTableRecord>("OdTcSymbolTableRecord"),
       row<OdTcCatalogItem>("OdTcCatalogItem"),
       row<OdTcDatabase>("OdTcDatabase"),
       row<OdTcToolPalette>("OdTcToolPalette"),
       row<OdTcPaletteManager>("OdTcPaletteManager"),
       row<OdTcPaletteUiProperties>("OdTcPaletteUiProperties"),
+      row<OdTcProperty>("OdTcProperty"),
+      row<OdTcDatabaseProperty>("OdTcDatabaseProperty"),
+      row<OdTcPropertyBag>("OdTcPropertyBag"),
+      row<OdTcPropertyFilter>("OdTcPropertyFilter"),
       row<OdTcImageList>("OdTcImageList"),
       row<OdTcImage>("OdTcImage"),
       row<OdTcProperties>("OdTcProperties"),
       row<OdTcPropertyBasicInfo>("OdTcPropertyBasicInfo"),
+      row<OdTcPropertyCreateInfo>("OdTcPropertyCreateInfo"),
+      row<OdTcLineTypeElement>("OdTcLineTypeElement"),
+      row<OdTcComplexLineTypeElement>("OdTcComplexLineTypeElement"),
+      row<OdTcTextStyleTableRecordCollection>("OdTcTextStyleTableRecordCollection"),
+      row<OdTcPropertyReference>("OdTcPropertyReference"),
       row<OdTcToolOrderList>("OdTcToolOrderList"),
       row<OdTcCatalogItemOrderList>("OdTcCatalogItemOrderList"),
       row<OdTcCatalogView>("OdTcCatalogView"),
       row<OdTcList>("OdTcList"),
+      row<OdTcLineTypeElementsList>("OdTcLineTypeElementsList"),
       row<OdTcToolList>("OdTcToolList"),
       row<OdTcCatalog>("OdTcCatalog"),
       row<OdTcGroup>("OdTcGroup"),
@@ -67,11 +84,14 @@ const std::vector<Row>& rows()
 // The order of deletion. OdTcDatabase stands first in place of OdTcTool,
 // which comes with the tools.
 constexpr const char* kDeletionOrder[] = {
-    "OdTcDatabase", "OdTcPersist", "OdTcToolPalette", "OdTcPaletteManager", "OdTcPaletteUiProperties",
-    "OdTcImageList", "OdTcImage", "OdTcProperties", "OdTcPropertyBasicInfo", "OdTcToolOrderList",
-    "OdTcCatalogItemOrderList", "OdTcCatalogView", "OdTcCatalogItem", "OdTcCatalog", "OdTcGroup", "OdTcList",
-    "OdTcToolList", "OdTcPaletteLoader", "OdTcPaletteLoaderList", "OdTcGroupContentList", "OdTcPaletteSoftRef",
-    "OdTcGroupList", "OdTcCatalogItemList"};
+    "OdTcDatabase", "OdTcPersist", "OdTcSymbolTableRecord", "OdTcToolPalette", "OdTcPaletteManager",
+    "OdTcPaletteUiProperties", "OdTcProperty", "OdTcDatabaseProperty", "OdTcPropertyBag", "OdTcImageList",
+    "OdTcImage", "OdTcProperties", "OdTcPropertyBasicInfo", "OdTcPropertyCreateInfo", "OdTcLineTypeElement",
+    "OdTcComplexLineTypeElement", "OdTcPropertyFilter", "OdTcTextStyleTableRecordCollection",
+    "OdTcPropertyReference", "OdTcToolOrderList", "OdTcCatalogItemOrderList", "OdTcCatalogView",
+    "OdTcCatalogItem", "OdTcCatalog", "OdTcGroup", "OdTcList", "OdTcLineTypeElementsList", "OdTcToolList",
+    "OdTcPaletteLoader", "OdTcPaletteLoaderList", "OdTcGroupContentList", "OdTcPaletteSoftRef", "OdTcGroupList",
+    "OdTcCatalogItemList"};
 
 const Row& rowNamed(const char* name)
 {

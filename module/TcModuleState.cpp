@@ -7,6 +7,7 @@
 #include "images/TcImageClasses.h"
 #include "persist/OdTcTagTable.h"
 #include "persist/TcModelTags.h"
+#include "properties/TcPropertyClasses.h"
 
 #include "hostsdk/core/HostCore.h"
 
@@ -29,6 +30,7 @@ TcModuleState::FileLayer::FileLayer()
 {
   registerModelTags(OdTcTagTable::instance());
   registerImageClasses(OdTcTagTable::instance());
+  registerPropertyClasses(OdTcTagTable::instance());
   odtcSetFileStore(&store);
 }
 
