@@ -9,10 +9,15 @@
 #include "model/OdTcPaletteUi.h"
 #include "model/OdTcProperties.h"
 #include "model/OdTcProperty.h"
+#include "model/OdTcPropertyBag.h"
 #include "model/OdTcPropertyFilter.h"
 #include "model/OdTcTool.h"
 #include "model/OdTcToolRecords.h"
 #include "module/OdTcPaletteManager.h"
+#include "properties/OdTcLineTypeElements.h"
+#include "properties/OdTcPropertyCreateInfo.h"
+#include "properties/OdTcPropertyReference.h"
+#include "properties/OdTcTextStyleTableRecordImpl.h"
 #include "tools/OdTcCommandConveyor.h"
 #include "tools/OdTcToolBlockCommand.h"
 #include "tools/OdTcToolCommand.h"
@@ -50,6 +55,7 @@ const std::vector<Row>& rows()
 {
   static const std::vector<Row> table = {
       row<OdTcPersist>("OdTcPersist"),
+      row<OdTcSymbolTableRecord>("OdTcSymbolTableRecord"),
       row<OdTcCatalogItem>("OdTcCatalogItem"),
       row<OdTcDatabase>("OdTcDatabase"),
       row<OdTcTool>("OdTcTool"),
@@ -73,11 +79,17 @@ const std::vector<Row>& rows()
       row<OdTcToolBlockCommand>("OdTcToolBlockCommand"),
       row<OdTcToolRasterCommand>("OdTcToolRasterCommand"),
       row<OdTcToolHatchCommand>("OdTcToolHatchCommand"),
+      row<OdTcPropertyCreateInfo>("OdTcPropertyCreateInfo"),
+      row<OdTcLineTypeElement>("OdTcLineTypeElement"),
+      row<OdTcComplexLineTypeElement>("OdTcComplexLineTypeElement"),
+      row<OdTcTextStyleTableRecordCollection>("OdTcTextStyleTableRecordCollection"),
+      row<OdTcPropertyReference>("OdTcPropertyReference"),
       row<OdTcToolOrderList>("OdTcToolOrderList"),
       row<OdTcCatalogItemOrderList>("OdTcCatalogItemOrderList"),
       row<OdTcToolSource>("OdTcToolSource"),
       row<OdTcCatalogView>("OdTcCatalogView"),
       row<OdTcList>("OdTcList"),
+      row<OdTcLineTypeElementsList>("OdTcLineTypeElementsList"),
       row<OdTcToolList>("OdTcToolList"),
       row<OdTcCatalog>("OdTcCatalog"),
       row<OdTcGroup>("OdTcGroup"),
@@ -98,12 +110,14 @@ const std::vector<Row>& rows()
 // The order of deletion, which differs on purpose from that of
 // registration. The two editor reactors are not in it: they go after it.
 constexpr const char* kDeletionOrder[] = {
-    "OdTcTool", "OdTcDatabase", "OdTcPersist", "OdTcToolPalette", "OdTcPaletteManager", "OdTcPaletteUiProperties",
-    "OdTcProperty", "OdTcDatabaseProperty", "OdTcPropertyBag", "OdTcImageList", "OdTcImage", "OdTcProperties",
-    "OdTcToolCustomData", "OdTcToolFlyout", "OdTcStockToolRef", "OdTcToolData", "OdTcPropertyBasicInfo",
-    "OdTcToolActionAgent", "OdTcToolCommand", "OdTcToolBlockCommand", "OdTcToolRasterCommand",
-    "OdTcToolHatchCommand", "OdTcPropertyFilter", "OdTcToolOrderList", "OdTcCatalogItemOrderList", "OdTcToolSource",
-    "OdTcCatalogView", "OdTcCatalogItem", "OdTcCatalog", "OdTcGroup", "OdTcList", "OdTcToolList",
+    "OdTcTool", "OdTcDatabase", "OdTcPersist", "OdTcSymbolTableRecord", "OdTcToolPalette", "OdTcPaletteManager",
+    "OdTcPaletteUiProperties", "OdTcProperty", "OdTcDatabaseProperty", "OdTcPropertyBag", "OdTcImageList",
+    "OdTcImage", "OdTcProperties", "OdTcToolCustomData", "OdTcToolFlyout", "OdTcStockToolRef", "OdTcToolData",
+    "OdTcPropertyBasicInfo", "OdTcToolActionAgent", "OdTcToolCommand", "OdTcToolBlockCommand",
+    "OdTcToolRasterCommand", "OdTcToolHatchCommand", "OdTcPropertyCreateInfo", "OdTcLineTypeElement",
+    "OdTcComplexLineTypeElement", "OdTcPropertyFilter", "OdTcTextStyleTableRecordCollection",
+    "OdTcPropertyReference", "OdTcToolOrderList", "OdTcCatalogItemOrderList", "OdTcToolSource", "OdTcCatalogView",
+    "OdTcCatalogItem", "OdTcCatalog", "OdTcGroup", "OdTcList", "OdTcLineTypeElementsList", "OdTcToolList",
     "OdTcPaletteLoader", "OdTcPaletteLoaderList", "OdTcSource", "OdTcGroupContentList", "OdTcPaletteSoftRef",
     "OdTcGroupList", "OdTcCatalogItemList", "OdTcCommandConveyor"};
 constexpr const char* kReactorClasses[] = {"TcEditorReactor", "TcEditorReactorEx"};

@@ -7,6 +7,7 @@
 #include "images/TcImageClasses.h"
 #include "persist/OdTcTagTable.h"
 #include "persist/TcModelTags.h"
+#include "properties/TcPropertyClasses.h"
 #include "tools/TcToolClasses.h"
 
 #include "hostsdk/core/HostCore.h"
@@ -53,6 +54,7 @@ TcModuleState::FileLayer::FileLayer()
 {
   registerModelTags(OdTcTagTable::instance());
   registerImageClasses(OdTcTagTable::instance());
+  registerPropertyClasses(OdTcTagTable::instance());
   registerToolTags(OdTcTagTable::instance());
   odtcSetFileStore(&store);
 }
