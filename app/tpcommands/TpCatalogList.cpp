@@ -4,6 +4,7 @@
 #include "model/OdTcCatalog.h"
 #include "model/OdTcGroup.h"
 #include "model/OdTcPaletteSoftRef.h"
+#include "model/OdTcTool.h"
 #include "model/OdTcToolPalette.h"
 #include "module/OdTcPaletteManager.h"
 #include "module/TcExports.h"
@@ -25,8 +26,12 @@ void line(HostCommandOutput& out, int depth, const char* kind, const OdString& n
 void listPalette(HostCommandOutput& out, OdTcToolPalette* palette, int depth)
 {
   line(out, depth, "palette", palette->displayName());
-  for (const OdTcCatalogItemPtr& tool : palette->sortedTools())
-    line(out, depth + 1, "tool", tool->displayName());
+  for (const OdTcCatalogItemPtr& item : palette->sortedTools()) {
+    OdTcToolPtr tool = OdTcTool::cast(item);
+    OdTcToolActionAgent* agent = tool ? tool->agent() : nullptr;
+    const OdString kind = agent ? agent->tagName().makeLower() : OdString("none");
+    line(out, depth + 1, "tool", item->displayName(), " [" + kind + "]");
+  }
 }
 
 void listGroup(HostCommandOutput& out, OdTcCatalogItem* group, int depth)

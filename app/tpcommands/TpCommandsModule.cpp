@@ -1,7 +1,8 @@
 // The module of the reference host's tool palettes commands: it finds the
-// host by its exported lookups and registers ToolPalettesList and
-// ToolPalettesSave with the host's command factory.
+// host by its exported lookups and registers ToolPalettesList,
+// ToolPalettesSave and ToolPalettesRun with the host's command factory.
 #include "app/tpcommands/TpCatalogList.h"
+#include "app/tpcommands/TpToolRun.h"
 
 #include "hostsdk/core/AppInterfaces.h"
 #include "hostsdk/core/CmdInterfaces.h"
@@ -48,6 +49,14 @@ void toolPalettesSave()
   run(&tpcommands::saveCatalogs);
 }
 
+void toolPalettesRun()
+{
+  run([](HostCommandOutput& out) {
+    if (HostServices* host = services())
+      tpcommands::runTool(*host, out);
+  });
+}
+
 OdRxModule* g_module = nullptr;
 
 class TpCommandsModule : public OdRxModule
@@ -67,6 +76,7 @@ public:
     if (auto factory = CRkPtr<ICmdFactory>::query(app.get())) {
       factory->registerCommandFunction("VERDANI", "ToolPalettesList", "ToolPalettesList", 0, &toolPalettesList, 0, 0);
       factory->registerCommandFunction("VERDANI", "ToolPalettesSave", "ToolPalettesSave", 0, &toolPalettesSave, 0, 0);
+      factory->registerCommandFunction("VERDANI", "ToolPalettesRun", "ToolPalettesRun", 0, &toolPalettesRun, 0, 0);
     }
   }
   void uninitApp() override {}

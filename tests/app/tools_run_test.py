@@ -1,0 +1,82 @@
+#!/usr/bin/python3
+"""End-to-end: tools of a shared catalog listed and run by the console host
+as a click runs them; the saved drawing is read back by ezdxf.
+
+Usage: tools_run_test.py <verdani-console> <catalog fixture folder>
+"""
+import os
+import shutil
+import subprocess
+import sys
+import tempfile
+
+import ezdxf
+
+console, fixture = sys.argv[1], sys.argv[2]
+failures = []
+
+
+def check(condition, what):
+    if not condition:
+        failures.append(what)
+        print("FAIL:", what)
+
+
+def run(name, script):
+    """Runs the script with the catalog of the fixture as a shared one; gives
+    the transcript and the folder, where the script saves as out.dxf."""
+    folder = tempfile.mkdtemp(prefix="verdani-tools-")
+    shutil.copytree(fixture, os.path.join(folder, "common", "Tools", "ToolPalette"))
+    env = dict(os.environ, HOME=folder, XDG_CONFIG_HOME=folder + "/config", XDG_DATA_HOME=folder + "/data")
+    path = os.path.join(folder, "script.txt")
+    with open(path, "w") as f:
+        f.write(script.replace("@OUT@", folder + "/out.dxf"))
+    done = subprocess.run([console, "--set", "CommonDirs=" + folder + "/common", "--script", path],
+                          env=env, capture_output=True, text=True, timeout=120)
+    print("=== %s\n%s" % (name, done.stdout + done.stderr))
+    return done.stdout + done.stderr, folder
+
+
+def lines_of(folder):
+    doc = ezdxf.readfile(os.path.join(folder, "out.dxf"))
+    return doc.modelspace()
+
+
+# Each tool of the palette in the order the palette shows (by name), with
+# its kind.
+out, _ = run("list", "ToolPalettesList\nExit\n")
+listed = [l.strip() for l in out.splitlines() if l.strip().startswith("tool ")]
+check(listed == ["tool Line [command]", "tool Plain [none]", "tool Stuck [command]", "tool Style [visualstyle]",
+                 "tool Twin [command]", "tool Twin [command]"], "the tools listed: %r" % listed)
+
+# A command tool's macro draws, and its run ends with the command: the next
+# tool runs in another document without message 138.
+out, folder = run("line", "NewDocument\nToolPalettesRun\nLine\nSaveAsDocument\n@OUT@\n"
+                          "NewDocument\nToolPalettesRun\n{T2}\nExit\n")
+msp = lines_of(folder)
+found = [e for e in msp if e.dxftype() == "LINE"]
+check(len(found) == 1 and tuple(found[0].dxf.start)[:2] == (0, 0) and tuple(found[0].dxf.end)[:2] == (100, 0),
+      "the Line tool drew one line from 0,0 to 100,0")
+check("already running" not in out, "the run of Line ended with its command")
+
+# A name that several tools have runs the first in catalog order, and says so.
+out, folder = run("twin", "NewDocument\nToolPalettesRun\ntwin\nSaveAsDocument\n@OUT@\nExit\n")
+check("2 tools are named \"twin\": running the first, {T2}." in out, "the message of a name of several tools")
+circles = [e for e in lines_of(folder) if e.dxftype() == "CIRCLE"]
+check(len(circles) == 1 and circles[0].dxf.radius == 25, "the first Twin drew its circle of radius 25")
+
+# A tool whose command never starts stays running in its document: a click
+# in another document prints message 138 and does nothing there.
+out, folder = run("other document", "NewDocument\nToolPalettesRun\nStuck\nNewDocument\nToolPalettesRun\nLine\n"
+                                    "SaveAsDocument\n@OUT@\nExit\n")
+check("Execution canceled. Tool \"Stuck\" is already running in document" in out, "message 138")
+check(not [e for e in lines_of(folder) if e.dxftype() == "LINE"], "nothing drawn in the second document")
+
+# Unknown tools and kinds that cannot run say so and change nothing.
+out, _ = run("unknown", "NewDocument\nToolPalettesRun\nNobody\nExit\n")
+check("No tool is named \"Nobody\"." in out, "an unknown tool name")
+
+if failures:
+    print("%d failure(s)" % len(failures))
+    sys.exit(1)
+print("tools run test passed")
