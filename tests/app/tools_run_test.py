@@ -46,8 +46,9 @@ def lines_of(folder):
 # its kind.
 out, _ = run("list", "ToolPalettesList\nExit\n")
 listed = [l.strip() for l in out.splitlines() if l.strip().startswith("tool ")]
-check(listed == ["tool Line [command]", "tool Plain [none]", "tool Stuck [command]", "tool Style [visualstyle]",
-                 "tool Twin [command]", "tool Twin [command]"], "the tools listed: %r" % listed)
+check(listed == ["tool Held [command]", "tool Line [command]", "tool Plain [none]", "tool Scaled [command]",
+                 "tool Stuck [command]", "tool Style [visualstyle]", "tool Twin [command]", "tool Twin [command]"],
+      "the tools listed: %r" % listed)
 
 # A command tool's macro draws, and its run ends with the command: the next
 # tool runs in another document without message 138.
@@ -71,6 +72,21 @@ out, folder = run("other document", "NewDocument\nToolPalettesRun\nStuck\nNewDoc
                                     "SaveAsDocument\n@OUT@\nExit\n")
 check("Execution canceled. Tool \"Stuck\" is already running in document" in out, "message 138")
 check(not [e for e in lines_of(folder) if e.dxftype() == "LINE"], "nothing drawn in the second document")
+
+# A second click in the same document (a completion entry, which runs no
+# command of its own) stops the first tool and puts back its linetype scale
+# before the second saves the drawing's; each run ends with its command.
+out, folder = run("second click", "NewDocument\nTOOL:Held\nTOOL:Scaled\nSETVAR\nCELTSCALE\n\n"
+                                  "SaveAsDocument\n@OUT@\nExit\n")
+check("CELTSCALE = 1" in out, "the drawing's linetype scale restored to 1, not left at the first tool's 3")
+scaled = [e.dxf.get("ltscale") for e in lines_of(folder) if e.dxftype() == "LINE"]
+check(scaled == [2.5], "the second tool's line drawn with its linetype scale: %r" % scaled)
+
+# Closing the tool's document drops its run: the next tool runs anywhere.
+out, folder = run("close during a run", "NewDocument\nNewDocument\nTOOL:Held\nCloseDocument\n"
+                                        "ToolPalettesRun\nLine\nSaveAsDocument\n@OUT@\nExit\n")
+check("already running" not in out, "no message 138 once the tool's document closed")
+check(len([e for e in lines_of(folder) if e.dxftype() == "LINE"]) == 1, "the Line tool ran after the close")
 
 # Unknown tools and kinds that cannot run say so and change nothing.
 out, _ = run("unknown", "NewDocument\nToolPalettesRun\nNobody\nExit\n")
