@@ -46,9 +46,14 @@ def lines_of(folder):
 # its kind.
 out, _ = run("list", "ToolPalettesList\nExit\n")
 listed = [l.strip() for l in out.splitlines() if l.strip().startswith("tool ")]
-check(listed == ["tool Held [command]", "tool Line [command]", "tool Plain [none]", "tool Scaled [command]",
-                 "tool Stuck [command]", "tool Style [visualstyle]", "tool Twin [command]", "tool Twin [command]"],
+check(listed == ["tool Circle [none]", "tool Held [command]", "tool Line [command]", "tool Plain [none]",
+                 "tool Scaled [command]", "tool Stuck [command]", "tool Style [visualstyle]", "tool Twin [command]",
+                 "tool Twin [command]", "tool Widget [none]"],
       "the tools listed: %r" % listed)
+# A multitool whose class the host's route map knows becomes a regular tool
+# named after the command; one of an unknown class stays as it was.
+check('Multitool "Circle" has been converted to regular.' in out, "message 134 for the converted multitool")
+check(out.count("Tool Palette Import:") == 1, "the multitool message shown once")
 
 # A command tool's macro draws, and its run ends with the command: the next
 # tool runs in another document without message 138.
@@ -87,6 +92,14 @@ out, folder = run("close during a run", "NewDocument\nNewDocument\nTOOL:Held\nCl
                                         "ToolPalettesRun\nLine\nSaveAsDocument\n@OUT@\nExit\n")
 check("already running" not in out, "no message 138 once the tool's document closed")
 check(len([e for e in lines_of(folder) if e.dxftype() == "LINE"]) == 1, "the Line tool ran after the close")
+
+# Saved, the palette keeps every tool, the converted one as a regular tool.
+out, folder = run("save", "ToolPalettesSave\nExit\n")
+with open(os.path.join(folder, "common", "Tools", "ToolPalette", "Palettes", "Draw.vtc")) as f:
+    saved = f.read()
+check(saved.count("<Tool ") == 10, "the saved palette has its ten tools")
+check("<ItemName>Circle</ItemName>" in saved and "<ItemName>Multi circle</ItemName>" not in saved,
+      "the converted multitool saved under the command's name")
 
 # Unknown tools and kinds that cannot run say so and change nothing.
 out, _ = run("unknown", "NewDocument\nToolPalettesRun\nNobody\nExit\n")
