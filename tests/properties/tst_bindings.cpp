@@ -251,6 +251,9 @@ INSTANTIATE_TEST_SUITE_P(
                       RangeCase{0.0, 1000000.0, "-1", false, "Value must be between 0.0000 and 1000000.0000"},
                       RangeCase{0.0, 1000000.0, "2000000", false, "Value must be between 0.0000 and 1000000.0000"},
                       RangeCase{0.0, 1000000.0, "abc", false, "Invalid expression: abc"},
+                      // Taken by the host's evaluator, and then held to the range.
+                      RangeCase{0.0, 1000000.0, "2*3", true, ""},
+                      RangeCase{0.0, 1000000.0, "-2*3", false, "Value must be between 0.0000 and 1000000.0000"},
                       RangeCase{0.0, 1000000.0, "1'-6\"", true, ""},
                       RangeCase{1.0, 2147483647.0, "0.5", false, "Value must be more 1.0000"},
                       RangeCase{-2147483648.0, 10.0, "11", false, "Value must be less 10.0000"},
