@@ -4,12 +4,17 @@
 #pragma once
 
 #include "module/OdTcPaletteManager.h"
+#include "module/OdTcToolBuffer.h"
 #include "module/OdTcValueStorageImpl.h"
 #include "module/TcClassTable.h"
 #include "module/TcUiInterfaces.h"
 
 #include "host/TcHost.h"
 #include "persist/TcFileStore.h"
+#include "tools/OdTcCommandConveyor.h"
+#include "tools/OdTcConveyorImpl.h"
+#include "tools/TcEditorReactor.h"
+#include "tools/TcToolPipeline.h"
 
 #include <memory>
 
@@ -36,6 +41,10 @@ public:
 
   OdTcValueStorageImpl* valueStorage() const { return m_valueStorage; }
   OdTcPaletteManager* paletteManager() const { return m_paletteManager; }
+  TcEditorReactor* editorReactor() const { return m_editorReactor; }
+  OdTcConveyorImpl* conveyor() const { return m_conveyor; }
+  OdTcToolBuffer* toolBuffer() const { return m_toolBuffer; }
+  OdTcCommandConveyor* commandConveyor() const { return m_commandConveyor; }
 
   // The palette set window: null until first shown, and owned by the
   // docking frame, never freed here.
@@ -72,10 +81,18 @@ private:
   TcHostSession m_host;
   TcClassRegistration m_classes;
   FileLayer m_files;
-  // The module-wide objects, in the order of their making. editorReactor,
-  // conveyor, stateSaver, toolBuffer and commandConveyor join here.
+  // The module-wide objects, in the order of their making.
   OdTcValueStorageImplPtr m_valueStorage;
   OdTcPaletteManagerPtr m_paletteManager;
+  TcEditorReactorPtr m_editorReactor;
+  bool m_watchesEditor = false;
+  OdTcConveyorImplPtr m_conveyor;
+  // The state saver of the windows' remembered values takes its place here,
+  // between the conveyor and the tool buffer, when it joins the module.
+  OdTcToolBufferPtr m_toolBuffer;
+  OdTcCommandConveyorPtr m_commandConveyor;
+  // The road of a click, over the editor reactor and the command conveyor.
+  std::unique_ptr<TcToolPipeline> m_pipeline;
   bool m_offersTools = false;
   ITcUiPaletteSet* m_paletteSet = nullptr; // not owned
   bool m_paletteVisible = false;

@@ -114,6 +114,7 @@ void HostApp::start(const HostStartOptions& options)
   m_sysVars->reset();
   m_variableStore->reset();
   HostBuiltinCommands::registerAll();
+  hostSetCmdRouteMap(OdString(HostPaths::installDataFolder() + QStringLiteral("/cmdroutemap.xml")));
   if (options.messageBoxesOnCommandLine) {
     hostSetMessageBoxHandler(&commandLineMessageBox);
     m_ownMessageBoxes = true;
@@ -176,6 +177,7 @@ void HostApp::shutdown()
   m_completion->clear();
   m_appProp->clear();
   m_config.reset();
+  hostSetCmdRouteMap(OdString());
   if (m_ownMessageBoxes) {
     hostSetMessageBoxHandler(nullptr);
     m_ownMessageBoxes = false;

@@ -92,3 +92,21 @@ int hostMessageBox(const OdString& text, const OdString& caption, unsigned style
   std::fprintf(stderr, "%s: %s\n", caption.toUtf8().c_str(), text.toUtf8().c_str());
   return hostDefaultMessageBoxAnswer(style);
 }
+
+namespace {
+OdString& cmdRouteMap()
+{
+  static OdString path;
+  return path;
+}
+} // namespace
+
+OdString hostGetCmdRouteMap()
+{
+  return cmdRouteMap();
+}
+
+void hostSetCmdRouteMap(const OdString& path)
+{
+  cmdRouteMap() = path;
+}

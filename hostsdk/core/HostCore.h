@@ -38,3 +38,9 @@ void hostSetMessageBoxHandler(HostMessageBoxHandler handler);
 int hostMessageBox(const OdString& text, const OdString& caption, unsigned style);
 // The answer a box of that style gives without a user: its first button.
 int hostDefaultMessageBoxAnswer(unsigned style);
+
+// The host's command route map: an XML file that names, for each class of
+// drawing object, the command that draws one. The host sets its path when
+// it starts; empty while it has none.
+OdString hostGetCmdRouteMap();
+void hostSetCmdRouteMap(const OdString& path);
