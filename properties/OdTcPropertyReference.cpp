@@ -7,7 +7,7 @@
 
 namespace tc {
 
-ODRX_NO_CONS_DEFINE_MEMBERS(OdTcPropertyReference, OdTcPersist)
+ODRX_DEFINE_MEMBERS(OdTcPropertyReference, OdTcPersist, return OdRxObjectPtr(OdTcPropertyReferenceImpl::createNew());)
 
 OdTcPropertyReferencePtr OdTcPropertyReferenceImpl::createNew()
 {

@@ -1,6 +1,8 @@
 // The binding of editable rows to an agent's fields: getters and setters
 // named at compile time, the agent's predicates, the backup of the editing
 // period, and the texts, ranges and messages of numbers.
+#include "tests/properties/PropertyTestSupport.h"
+
 #include "properties/OdTcObjectProperties.h"
 
 #include <gtest/gtest.h>
@@ -84,13 +86,22 @@ struct RangeCase
   const char* message;
 };
 
+// Cloning and the frame's casts need the class descriptions.
+class Bindings : public ::testing::Test
+{
+protected:
+  static void SetUpTestSuite() { tst::registerPropertyClasses(); }
+};
+
 class RealRange : public ::testing::TestWithParam<RangeCase>
 {
+protected:
+  static void SetUpTestSuite() { tst::registerPropertyClasses(); }
 };
 
 } // namespace
 
-TEST(Bindings, getterAndSetterReachTheAgent_andTheRowHasNoValueRecord)
+TEST_F(Bindings, getterAndSetterReachTheAgent_andTheRowHasNoValueRecord)
 {
   Agent agent;
   auto row = ScaleRow::createNew(&agent, "Insert.Scale");
@@ -104,7 +115,7 @@ TEST(Bindings, getterAndSetterReachTheAgent_andTheRowHasNoValueRecord)
   EXPECT_EQ(row->getValue().getDouble(), 2.5);
 }
 
-TEST(Bindings, editingPeriod_rollbackPutsBackTheValueFromBeforeTheFirstChange)
+TEST_F(Bindings, editingPeriod_rollbackPutsBackTheValueFromBeforeTheFirstChange)
 {
   Agent agent;
   auto row = ScaleRow::createNew(&agent, "Insert.Scale");
@@ -123,7 +134,7 @@ TEST(Bindings, editingPeriod_rollbackPutsBackTheValueFromBeforeTheFirstChange)
   EXPECT_EQ(agent.m_scale, 4.0);
 }
 
-TEST(Bindings, enablerAndVisibility_askTheAgent)
+TEST_F(Bindings, enablerAndVisibility_askTheAgent)
 {
   Agent agent;
   auto scale = ScaleRow::createNew(&agent, "Insert.Scale");
@@ -139,7 +150,7 @@ TEST(Bindings, enablerAndVisibility_askTheAgent)
   EXPECT_FALSE(name->isEnabled());
 }
 
-TEST(Bindings, cloneKeepsTheOwnerAndTheRange)
+TEST_F(Bindings, cloneKeepsTheOwnerAndTheRange)
 {
   Agent agent;
   auto row = ScaleRow::createNew(&agent, "Sample.Spacing");
@@ -152,7 +163,7 @@ TEST(Bindings, cloneKeepsTheOwnerAndTheRange)
   EXPECT_EQ(copy->name(), "Sample.Spacing");
 }
 
-TEST(Bindings, boolRow_takesTheTwoWordsOnly)
+TEST_F(Bindings, boolRow_takesTheTwoWordsOnly)
 {
   Agent agent;
   auto row = BoolRow::createNew(&agent, "Insert.Explode");
@@ -165,7 +176,7 @@ TEST(Bindings, boolRow_takesTheTwoWordsOnly)
   EXPECT_TRUE(agent.m_explode);
 }
 
-TEST(Bindings, multiverseRow_takesOnlyEntriesOfItsList)
+TEST_F(Bindings, multiverseRow_takesOnlyEntriesOfItsList)
 {
   Agent agent;
   auto row = UnitsRow::createNew(&agent, "Insert.Units");
@@ -177,7 +188,7 @@ TEST(Bindings, multiverseRow_takesOnlyEntriesOfItsList)
   EXPECT_EQ(agent.m_units, "Millimeters");
 }
 
-TEST(Bindings, colorRow_readsWordsAndIndices)
+TEST_F(Bindings, colorRow_readsWordsAndIndices)
 {
   Agent agent;
   auto row = ColorRow::createNew(&agent, "Sample.Color");
@@ -190,7 +201,7 @@ TEST(Bindings, colorRow_readsWordsAndIndices)
   EXPECT_TRUE(agent.m_color.isByLayer());
 }
 
-TEST(Bindings, callbackRow_dialogSetsTheFieldThroughTheSetter)
+TEST_F(Bindings, callbackRow_dialogSetsTheFieldThroughTheSetter)
 {
   Agent agent;
   auto row = PatternRow::createNew(&agent, "Sample.Pattern name");
@@ -204,7 +215,7 @@ TEST(Bindings, callbackRow_dialogSetsTheFieldThroughTheSetter)
   EXPECT_EQ(agent.m_name, "Door");
 }
 
-TEST(Bindings, angleRow_textInDegreesValueInRadians)
+TEST_F(Bindings, angleRow_textInDegreesValueInRadians)
 {
   Agent agent;
   auto row = AngleRow::createNew(&agent, "Insert.Rotation");
@@ -240,6 +251,9 @@ INSTANTIATE_TEST_SUITE_P(
                       RangeCase{0.0, 1000000.0, "-1", false, "Value must be between 0.0000 and 1000000.0000"},
                       RangeCase{0.0, 1000000.0, "2000000", false, "Value must be between 0.0000 and 1000000.0000"},
                       RangeCase{0.0, 1000000.0, "abc", false, "Invalid expression: abc"},
+                      // Taken by the host's evaluator, and then held to the range.
+                      RangeCase{0.0, 1000000.0, "2*3", true, ""},
+                      RangeCase{0.0, 1000000.0, "-2*3", false, "Value must be between 0.0000 and 1000000.0000"},
                       RangeCase{0.0, 1000000.0, "1'-6\"", true, ""},
                       RangeCase{1.0, 2147483647.0, "0.5", false, "Value must be more 1.0000"},
                       RangeCase{-2147483648.0, 10.0, "11", false, "Value must be less 10.0000"},

@@ -2,6 +2,9 @@
 // what is read, and that a load and a save lose nothing.
 #include "tests/properties/PropertyTestSupport.h"
 
+#include "model/OdTcToolImpl.h"
+#include "persist/TcFileStore.h"
+
 #include "properties/OdTcColorPropertyImpl.h"
 #include "properties/OdTcRecordPropertyImpls.h"
 #include "properties/OdTcScalarPropertyImpls.h"
@@ -279,4 +282,36 @@ TEST_F(PropertyFiles, dimensionSnapshot_everyVariableByNameInOrder)
   EXPECT_NE(xml.find("<dimblk>_ArchTick</dimblk>"), std::string::npos);
   EXPECT_NE(xml.find("<dimlwd>-2</dimlwd>"), std::string::npos);
   EXPECT_EQ(tst::paletteXml(tst::readOne<OdTcDimStylePropertyImpl>(xml)), xml);
+}
+
+TEST_F(PropertyFiles, toolData_makesTheTenKindsByTheirElementNames_andKeepsAFullBag)
+{
+  if (!OdTcToolData::desc())
+    OdTcToolData::rxInit();
+  // The tool's data makes its properties through the module's file store.
+  static TcFileStore store;
+  odtcSetFileStore(&store);
+  auto fresh = OdTcToolDataImpl::createNew();
+  OdTcPropertyBag* made = fresh->generalProperties();
+  ASSERT_TRUE(made);
+  ASSERT_EQ(made->count(), 10);
+  const char* names[] = {"General.Color",        "General.Layer",     "General.Linetype",  "General.Linetype scale",
+                         "General.Plot style",   "General.Line weight", "General.Transparency",
+                         "General.Text style",   "General.Dimstyle",  "Table style"};
+  for (const char* name : names) {
+    OdTcDatabaseProperty* property = OdTcDatabaseProperty::cast(made->findByName(name)).get();
+    ASSERT_TRUE(property) << name;
+    EXPECT_TRUE(property->basicInfo()->isUnspecified()) << name;
+  }
+
+  // A tool's data with every property set survives its file.
+  OdDbDatabasePtr db = sourceDrawing();
+  const std::string bagXml = tst::body(tst::paletteXml(fullBag(db)));
+  const std::string xml = tst::wrap("<Data>" + bagXml + "</Data>");
+  auto data = tst::readOne<OdTcToolDataImpl>(xml);
+  ASSERT_TRUE(data);
+  ASSERT_TRUE(data->generalProperties());
+  EXPECT_EQ(data->generalProperties()->count(), 10);
+  EXPECT_EQ(tst::paletteXml(data), xml);
+  odtcSetFileStore(nullptr);
 }

@@ -239,4 +239,5 @@ TEST_F(PropertyFrame, classDescriptions_makeTheImplementations)
   EXPECT_TRUE(OdTcComplexLineTypeElement::createObject());
   EXPECT_TRUE(OdTcLineTypeElementsList::createObject());
   EXPECT_TRUE(OdTcTextStyleTableRecordCollection::createObject());
+  EXPECT_TRUE(OdTcPropertyReference::createObject());
 }

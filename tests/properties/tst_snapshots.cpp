@@ -7,6 +7,7 @@
 #include "properties/OdTcDimStyleTableRecordImpl.h"
 #include "properties/OdTcLayerTableRecordImpl.h"
 
+#include "sdk/db/OdDbBlockTableRecord.h"
 #include "sdk/db/OdDbDimStyleTableRecord.h"
 #include "sdk/db/OdDbLayerTableRecord.h"
 #include "sdk/db/OdDbLinetypeTableRecord.h"
@@ -310,4 +311,35 @@ TEST_F(Snapshots, dimensionStyle_bringsArrowsTextStyleAndLinetypes)
     expectSameLinetype(*OdDbLinetypeTableRecord::cast(a.openObject()), *OdDbLinetypeTableRecord::cast(b.openObject()),
                        nameOf(a).toUtf8());
   }
+}
+
+TEST_F(Snapshots, userArrow_travelsAsTheMarkerAndIsLeftUnsetWhereItCannotBeMade)
+{
+  OdDbDatabasePtr source = odDbCreateDatabase();
+  OdDbSymbolTablePtr blocks = OdDbSymbolTable::cast(source->getBlockTableId().openObject(OdDb::kForWrite));
+  OdDbBlockTableRecordPtr block = OdDbBlockTableRecord::createObject();
+  block->setName("MY_ARROW");
+  const OdDbObjectId blockId = blocks->add(block);
+  OdDbSymbolTablePtr styles = OdDbSymbolTable::cast(source->getDimStyleTableId().openObject(OdDb::kForWrite));
+  OdDbDimStyleTableRecordPtr style = OdDbDimStyleTableRecord::createObject();
+  style->setName("USER");
+  const OdDbObjectId styleId = styles->add(style);
+  style->setDimblk(blockId);
+  style->setDimldrblk(OdDmUtil::getArrowId("_Dot", source, true));
+
+  auto snapshot = OdTcDimStyleTableRecordImpl::createNew();
+  ASSERT_TRUE(snapshot->captureDbRecord(styleId));
+  const std::string xml = tst::paletteXml(snapshot);
+  EXPECT_NE(xml.find("<dimblk>%userArrow%</dimblk>"), std::string::npos);
+  EXPECT_NE(xml.find("<dimldrblk>_Dot</dimldrblk>"), std::string::npos);
+
+  OdDbDatabasePtr target = odDbCreateDatabase();
+  auto back = tst::readOne<OdTcDimStyleTableRecordImpl>(xml);
+  ASSERT_TRUE(back);
+  OdDbDimStyleTableRecordPtr made = OdDbDimStyleTableRecord::cast(
+      tcFindOrCreateRecord(target, target->getDimStyleTableId(), OdString(), back).openObject());
+  ASSERT_TRUE(made);
+  EXPECT_TRUE(made->dimblk().isNull());
+  EXPECT_EQ(nameOf(made->dimldrblk()).iCompare("_Dot"), 0);
+  EXPECT_TRUE(target->recordId(target->getBlockTableId(), "%userArrow%").isNull());
 }

@@ -1,10 +1,9 @@
 // The editor reactor's watch over the running tool, the keyword of
 // "__executetool", and the command conveyor's records.
-#include "tools/OdTcCommandConveyor.h"
+#include "tests/tools/ToolTestSupport.h"
+
 #include "tools/TcEditorReactor.h"
 #include "tools/TcExecuteTool.h"
-
-#include "model/OdTcToolImpl.h"
 
 #include <gtest/gtest.h>
 
@@ -23,17 +22,7 @@ public:
 class Reactor : public ::testing::Test
 {
 protected:
-  static void SetUpTestSuite()
-  {
-    if (!OdTcPersist::desc())
-      OdTcPersist::rxInit();
-    if (!OdTcCatalogItem::desc())
-      OdTcCatalogItem::rxInit();
-    if (!OdTcTool::desc())
-      OdTcTool::rxInit();
-    if (!OdTcToolData::desc())
-      OdTcToolData::rxInit();
-  }
+  static void SetUpTestSuite() { tst::registerToolClasses(); }
 
   OdTcToolPtr running(const char* name)
   {

@@ -1,18 +1,8 @@
 // Tools in palette files: every kind read and written again without a loss,
 // the foreign records of other programs, and a palette renamed and saved.
-#include "tests/properties/PropertyTestSupport.h"
-
-#include "tools/OdTcCommandConveyor.h"
-#include "tools/OdTcToolBlockCommand.h"
-#include "tools/OdTcToolCommand.h"
-#include "tools/OdTcToolHatchCommand.h"
-#include "tools/OdTcToolRasterCommand.h"
-#include "tools/TcToolClasses.h"
+#include "tests/tools/ToolTestSupport.h"
 
 #include "host/TcCommandLookup.h"
-#include "model/OdTcFileStore.h"
-#include "model/OdTcToolImpl.h"
-#include "persist/TcFileStore.h"
 
 #include "hostsdk/core/HostCore.h"
 
@@ -26,19 +16,6 @@
 using namespace tc;
 
 namespace {
-
-void registerToolClasses()
-{
-  tst::registerPropertyClasses();
-  tst::ensureRegistered<OdTcTool, OdTcToolCustomData, OdTcToolFlyout, OdTcStockToolRef, OdTcToolData,
-                        OdTcToolActionAgent, OdTcToolCommand, OdTcToolBlockCommand, OdTcToolRasterCommand,
-                        OdTcToolHatchCommand, OdTcToolSource, OdTcCatalog, OdTcGroup, OdTcPaletteLoader,
-                        OdTcPaletteLoaderList, OdTcSource, OdTcGroupContentList, OdTcPaletteSoftRef, OdTcGroupList,
-                        OdTcCatalogItemList>();
-  registerToolTags(OdTcTagTable::instance());
-  static TcFileStore store;
-  odtcSetFileStore(&store);
-}
 
 const char* const kAgentTags[] = {"Command", "Block", "Hatch", "Raster", "VisualStyle", "Light", "MLeader", "Table"};
 
@@ -109,7 +86,7 @@ std::string between(const std::string& text, const std::string& open, const std:
 class ToolFiles : public ::testing::Test
 {
 protected:
-  static void SetUpTestSuite() { registerToolClasses(); }
+  static void SetUpTestSuite() { tst::registerToolClasses(); }
   void SetUp() override { OdTcToolFlyoutImpl::resetPairingCounter(); }
 };
 
