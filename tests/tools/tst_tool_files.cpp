@@ -282,3 +282,24 @@ TEST_F(ToolFiles, paletteWithTools_renamedAndSaved_keepsEveryToolElement)
   EXPECT_NE(saved.find("<ItemName>Renamed</ItemName>"), std::string::npos);
   EXPECT_EQ(firstDifference(between(saved, "<Tools>", "</Tools>"), "<Tools>" + tools + "</Tools>"), "same");
 }
+
+TEST_F(ToolFiles, generalPropertiesWithValues_surviveAReadAndAWrite)
+{
+  const std::string layer = "<Layer><BasicPropInfo><PropValue unspecified=\"FALSE\" value=\"WALLS\" />"
+                            "</BasicPropInfo></Layer>";
+  const std::string scale = "<LinetypeScale><BasicPropInfo><PropValue unspecified=\"FALSE\" "
+                            "value=\"2.5\" /></BasicPropInfo></LinetypeScale>";
+  const std::string xml = tool("<ToolType>1</ToolType><Data><GeneralProperties>" + layer + scale +
+                               "</GeneralProperties><Command><Macro>LINE</Macro></Command></Data>");
+  OdTcToolPtr read = tst::readOne<OdTcTool>(tst::wrap(xml));
+  ASSERT_FALSE(read.isNull());
+  ASSERT_NE(read->generalProperties(), nullptr);
+  EXPECT_EQ(read->generalProperties()->count(), 2) << "the file's bag, not ten new properties";
+  const std::string written = tst::paletteXml(read);
+  EXPECT_NE(written.find("<GeneralProperties>" + layer + scale + "</GeneralProperties>"), std::string::npos)
+      << written;
+  // And once more from what was written.
+  OdTcToolPtr again = tst::readOne<OdTcTool>(written);
+  ASSERT_FALSE(again.isNull());
+  EXPECT_EQ(tst::paletteXml(again), written);
+}
