@@ -46,7 +46,7 @@ def lines_of(folder):
 # its kind.
 out, _ = run("list", "ToolPalettesList\nExit\n")
 listed = [l.strip() for l in out.splitlines() if l.strip().startswith("tool ")]
-check(listed == ["tool Circle [none]", "tool Held [command]", "tool Line [command]", "tool Plain [none]",
+check(listed == ["tool Circle [none]", "tool Door [block]", "tool Held [command]", "tool Line [command]", "tool Plain [none]",
                  "tool Scaled [command]", "tool Stuck [command]", "tool Style [visualstyle]", "tool Twin [command]",
                  "tool Twin [command]", "tool Widget [none]"],
       "the tools listed: %r" % listed)
@@ -97,9 +97,15 @@ check(len([e for e in lines_of(folder) if e.dxftype() == "LINE"]) == 1, "the Lin
 out, folder = run("save", "ToolPalettesSave\nExit\n")
 with open(os.path.join(folder, "common", "Tools", "ToolPalette", "Palettes", "Draw.vtc")) as f:
     saved = f.read()
-check(saved.count("<Tool ") == 10, "the saved palette has its ten tools")
+check(saved.count("<Tool ") == 11, "the saved palette has its eleven tools")
 check("<ItemName>Circle</ItemName>" in saved and "<ItemName>Multi circle</ItemName>" not in saved,
       "the converted multitool saved under the command's name")
+
+# A block tool is kept but does not run yet, and says so; the next tool runs.
+out, folder = run("block", "NewDocument\nToolPalettesRun\nDoor\nToolPalettesRun\nLine\n"
+                           "SaveAsDocument\n@OUT@\nExit\n")
+check("Block tools are not available yet" in out, "the block tool says it cannot run yet")
+check("already running" not in out, "the block tool's run ended with the next command")
 
 # Unknown tools and kinds that cannot run say so and change nothing.
 out, _ = run("unknown", "NewDocument\nToolPalettesRun\nNobody\nExit\n")
