@@ -5,7 +5,7 @@ BUILD ?= build
 PACKAGES := cmake ninja-build g++ pkg-config qt6-base-dev qt6-image-formats-plugins \
             libgl-dev libtinyxml-dev libboost-dev libgif-dev libgtest-dev libgmock-dev \
             googletest libbenchmark-dev python3-ezdxf python3-matplotlib fonts-dejavu-core ccache \
-            xvfb xauth librsvg2-bin util-linux
+            xvfb xauth librsvg2-bin util-linux libpugixml-dev
 SUDO := $(shell [ "$$(id -u)" = 0 ] || echo sudo)
 JOBS ?= $(shell nproc)
 

@@ -19,4 +19,9 @@ OdTcFileStore& odtcFileStore()
   return *g_store;
 }
 
+OdTcPersistPtr odtcCreateByTag(const OdString& tag)
+{
+  return g_store ? g_store->createByTag(tag) : OdTcPersistPtr();
+}
+
 } // namespace tc

@@ -67,6 +67,11 @@ public:
   virtual bool fileExists(const OdString& path) const = 0;
   // False with the reason when the file could not be deleted.
   virtual bool removeFile(const OdString& path, OdString& reason) = 0;
+  // A new object of the class that the files name `tag` (an element
+  // name, "Color"), or null for a name no class has taken: how the model
+  // makes objects of the layers above it.
+  virtual OdTcPersistPtr createByTag(const OdString& tag) const = 0;
+
   // Keeps a copy of a file that did not read whole beside it, as
   // "<file>.unreadable" (numbered when an older, different copy is there).
   // The copy's path; empty, with the reason, when none could be made.
@@ -77,5 +82,7 @@ public:
 void odtcSetFileStore(OdTcFileStore* store);
 // The store installed; throws OdError when there is none.
 OdTcFileStore& odtcFileStore();
+// createByTag of the store installed; null without a store.
+OdTcPersistPtr odtcCreateByTag(const OdString& tag);
 
 } // namespace tc

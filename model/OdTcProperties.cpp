@@ -2,6 +2,7 @@
 #include "model/OdTcProperties.h"
 
 #include "model/OdTcImageList.h"
+#include "model/TcValueText.h"
 
 #include "sdk/kernel/OdTimeStamp.h"
 #include "sdk/kernel/OdWcstol.h"
@@ -150,17 +151,62 @@ void OdTcPropertiesImpl::copyFrom(const OdRxObject* source)
   }
 }
 
+OdTcPropertyBasicInfoPtr OdTcPropertyBasicInfoImpl::createNew()
+{
+  return OdRxObjectImpl<OdTcPropertyBasicInfoImpl, OdTcPropertyBasicInfo>::createObject();
+}
+
 bool OdTcPropertyBasicInfoImpl::setValue(const OdString& name, const OdVariant& value)
 {
   if (name == "unspecified") {
-    const OdString text = value.getString();
-    m_unspecified = text.iCompare("TRUE") == 0 || text.iCompare("1") == 0;
+    m_unspecified = tcReadBool(value.getString());
   } else if (name == "valueType") {
     m_valueType = odWcstol(value.getString());
   } else if (name == "value") {
     m_value = value;
   }
   return true;
+}
+
+namespace {
+// "PropValue": its attributes in the order the files have them, which a map
+// of attributes (ordered by name) would not keep.
+class PropValueElement : public OdTcPersistImpl<OdTcPersist>
+{
+public:
+  PropValueElement(const OdTcPropertyBasicInfo& info) : m_info(info) {}
+  OdString tagName() const override { return "PropValue"; }
+  void writeBody(OdTcFiler* filer) override
+  {
+    const bool unspecified = m_info.isUnspecified();
+    filer->writeAttribute("unspecified", OdVariant(tcBoolText(unspecified)));
+    if (m_info.isValueTypeWritten())
+      filer->writeAttribute("valueType", OdVariant(OdString::formatted("%d", m_info.valueType())));
+    const OdString text = tcVariantText(m_info.value());
+    if (!unspecified && !text.isEmpty())
+      filer->writeAttribute("value", OdVariant(text));
+  }
+
+private:
+  const OdTcPropertyBasicInfo& m_info;
+};
+} // namespace
+
+void OdTcPropertyBasicInfoImpl::writeBody(OdTcFiler* filer)
+{
+  OdStaticRxObject<PropValueElement> element(*this);
+  filer->writeObject(&element);
+}
+
+void OdTcPropertyBasicInfoImpl::copyFrom(const OdRxObject* source)
+{
+  OdTcPersistImpl<OdTcPropertyBasicInfo>::copyFrom(source);
+  if (auto* src = dynamic_cast<const OdTcPropertyBasicInfoImpl*>(source)) {
+    m_unspecified = src->m_unspecified;
+    m_valueType = src->m_valueType;
+    m_value = src->m_value;
+    m_isValueTypeWritten = src->m_isValueTypeWritten;
+  }
 }
 
 } // namespace tc

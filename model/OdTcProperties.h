@@ -74,33 +74,51 @@ private:
 };
 
 // The record of a general property value: whether it is set, its type and
-// the value.
+// the value ("BasicPropInfo", with one child "PropValue").
 class OdTcPropertyBasicInfo : public OdTcPersist
 {
   ODRX_DECLARE_MEMBERS(OdTcPropertyBasicInfo);
 
 public:
+  // True means "-- use current": the tool leaves the drawing's value.
   virtual bool isUnspecified() const = 0;
+  virtual void setUnspecified(bool unspecified) = 0;
   virtual std::int32_t valueType() const = 0;
+  virtual void setValueType(std::int32_t type) = 0;
   virtual OdVariant value() const = 0;
+  virtual void setPropValue(const OdVariant& value) = 0;
+  // Whether "valueType" is written; the general properties leave it out.
+  virtual bool isValueTypeWritten() const = 0;
+  virtual void setValueTypeWritten(bool written) = 0;
 };
+using OdTcPropertyBasicInfoPtr = OdSmartPtr<OdTcPropertyBasicInfo>;
 
 class OdTcPropertyBasicInfoImpl : public OdTcPersistImpl<OdTcPropertyBasicInfo>
 {
 public:
+  static OdTcPropertyBasicInfoPtr createNew();
+
   OdString tagName() const override { return "BasicPropInfo"; }
   // Takes "unspecified", "valueType" and "value"; unlike every other class
   // it answers true for names it does not know.
   bool setValue(const OdString& name, const OdVariant& value) override;
+  void writeBody(OdTcFiler* filer) override;
+  void copyFrom(const OdRxObject* source) override;
 
   bool isUnspecified() const override { return m_unspecified; }
+  void setUnspecified(bool unspecified) override { m_unspecified = unspecified; }
   std::int32_t valueType() const override { return m_valueType; }
+  void setValueType(std::int32_t type) override { m_valueType = type; }
   OdVariant value() const override { return m_value; }
+  void setPropValue(const OdVariant& value) override { m_value = value; }
+  bool isValueTypeWritten() const override { return m_isValueTypeWritten; }
+  void setValueTypeWritten(bool written) override { m_isValueTypeWritten = written; }
 
 private:
-  bool m_unspecified = false;
+  bool m_unspecified = true;
   std::int32_t m_valueType = 0;
-  OdVariant m_value;
+  OdVariant m_value = OdVariant(std::int32_t(0));
+  bool m_isValueTypeWritten = true;
 };
 
 } // namespace tc

@@ -44,6 +44,10 @@ public:
   // The stored value record ("BasicPropInfo"); null for an agent's
   // property, whose value is a field of the agent.
   virtual OdTcPropertyBasicInfo* basicInfo() = 0;
+  // Whether the row can be edited, and whether it shows at all; an agent's
+  // property asks the agent, whose other fields decide.
+  virtual bool isEnabled() const = 0;
+  virtual bool isVisible() const = 0;
 };
 using OdTcPropertyPtr = OdSmartPtr<OdTcProperty>;
 
@@ -58,6 +62,13 @@ public:
   // first change while tracking keeps a backup for rollbackEdit.
   virtual void beginEditTracking() = 0;
   virtual void endEditTracking() = 0;
+  // The value as its cell shows it: the translated "-- use current" for a
+  // property the tool does not set.
+  virtual OdString valueText() const = 0;
+  // Sets the value from the editor's text. The translated "-- use current",
+  // or a text the kind cannot take, makes the property unspecified and
+  // answers false.
+  virtual bool setValueText(const OdString& text) = 0;
 };
 using OdTcDatabasePropertyPtr = OdSmartPtr<OdTcDatabaseProperty>;
 

@@ -5,6 +5,8 @@
 
 #include "model/OdTcPersist.h"
 
+#include <map>
+
 class HostDocument;
 
 namespace tc {
@@ -48,5 +50,11 @@ public:
   virtual bool loadDefaultImage(OdTcImage* image) = 0;
 };
 using OdTcToolActionAgentPtr = OdSmartPtr<OdTcToolActionAgent>;
+
+// The table of tool kinds: the label of an agent's tag where it differs
+// from the tag ("VisualStyle" reads "Visual style"), untranslated.
+const std::map<OdString, OdString>& toolKindLabels();
+// The label of a tag: from the table, else the tag itself; untranslated.
+OdString toolKindLabel(const OdString& tag);
 
 } // namespace tc

@@ -3,6 +3,9 @@
 
 #include "model/OdTcCatalog.h"
 #include "model/OdTcFileStore.h"
+#include "model/OdTcTool.h"
+
+#include "hostsdk/core/HostCore.h"
 
 #include <algorithm>
 #include <vector>
@@ -13,7 +16,52 @@ ODRX_DEFINE_MEMBERS(OdTcToolPalette, OdTcCatalogItem, ODRX_CREATE_IMPL(OdTcToolP
 
 namespace {
 constexpr int kNotSupported = 3;
+
+// The order of tools by their kinds: blocks, commands, hatches, rasters;
+// within one kind by name ignoring case, except that two blocks count as
+// equal. Items that are not tools, tools without an agent, and kinds out
+// of the table compare as equal to anything.
+int compareByKind(OdTcCatalogItem* first, OdTcCatalogItem* second)
+{
+  OdTcToolPtr a = OdTcTool::cast(first);
+  OdTcToolPtr b = OdTcTool::cast(second);
+  if (!a || !b || !a->agent() || !b->agent())
+    return 0;
+  static const char* const kKinds[] = {"Block", "Command", "Hatch", "Raster"};
+  auto rank = [](const OdString& kind) {
+    for (int i = 0; i < 4; ++i)
+      if (kind == kKinds[i])
+        return i;
+    return -1;
+  };
+  const OdString kindA = a->agent()->tagName();
+  const OdString kindB = b->agent()->tagName();
+  const int ra = rank(kindA);
+  const int rb = rank(kindB);
+  if (kindA == kindB)
+    return ra == 0 ? 0 : a->displayName().iCompare(b->displayName());
+  if (ra < 0 || rb < 0)
+    return 0;
+  return ra < rb ? -1 : 1;
 }
+
+// A stable insertion sort: the compare functions of the palette's orders
+// are not all strict weak orders (tools without a kind are equal to all),
+// which the standard sorts do not allow.
+template <class Less>
+void insertionSort(std::vector<OdTcCatalogItemPtr>& items, const Less& less)
+{
+  for (size_t i = 1; i < items.size(); ++i) {
+    OdTcCatalogItemPtr item = items[i];
+    size_t j = i;
+    while (j > 0 && less(item, items[j - 1])) {
+      items[j] = items[j - 1];
+      --j;
+    }
+    items[j] = item;
+  }
+}
+} // namespace
 
 OdTcToolPalettePtr OdTcToolPaletteImpl::createNew()
 {
@@ -140,9 +188,12 @@ OdArray<OdTcCatalogItemPtr> OdTcToolPaletteImpl::sortedTools()
                      [&](const OdTcCatalogItemPtr& a, const OdTcCatalogItemPtr& b) { return rank(a) < rank(b); });
     break;
   }
+  case 1:
+    insertionSort(tools, [](const OdTcCatalogItemPtr& a, const OdTcCatalogItemPtr& b) {
+      return compareByKind(a.get(), b.get()) < 0;
+    });
+    break;
   default:
-    // By type, the tools compare by their agents' kinds; items without an
-    // agent compare equal, and keep the palette's order.
     break;
   }
   OdArray<OdTcCatalogItemPtr> sorted;
@@ -153,9 +204,21 @@ OdArray<OdTcCatalogItemPtr> OdTcToolPaletteImpl::sortedTools()
 
 OdArray<OdString> OdTcToolPaletteImpl::unsupportedTools()
 {
-  // Tool kinds that cannot run, text tools and separators are listed once
-  // tools carry their kinds; a palette of plain items lists nothing.
-  return OdArray<OdString>();
+  OdArray<OdString> list;
+  auto tools = m_database->enumerateTools();
+  while (OdTcCatalogItem* item = tools->next()) {
+    OdTcToolPtr tool = OdTcTool::cast(item);
+    if (!tool)
+      continue;
+    if (OdTcToolActionAgent* agent = tool->agent())
+      if (!agent->canRun())
+        list.append(Supp_Translate(toolKindLabel(agent->tagName())));
+    if (tool->toolType() == 3)
+      list.append(Supp_Translate("Text"));
+    if (tool->toolType() == 4)
+      list.append(Supp_Translate("Separator"));
+  }
+  return list;
 }
 
 } // namespace tc

@@ -250,7 +250,7 @@ void OdTcPaletteManagerImpl::openConfig()
     return;
 }
 
-OdTcCatalogItem* OdTcPaletteManagerImpl::findTool(const OdString& id)
+OdTcTool* OdTcPaletteManagerImpl::findTool(const OdString& id)
 {
   for (auto& [path, catalog] : m_catalogs) {
     auto palettes = catalog->enumeratePalettes();
@@ -258,7 +258,8 @@ OdTcCatalogItem* OdTcPaletteManagerImpl::findTool(const OdString& id)
       auto tools = static_cast<OdTcToolPalette*>(item)->enumerateTools();
       while (OdTcCatalogItem* tool = tools->next())
         if (tool->id() == id)
-          return tool;
+          if (OdTcToolPtr found = OdTcTool::cast(tool))
+            return found.get();
     }
   }
   return nullptr;

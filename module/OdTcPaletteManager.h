@@ -4,6 +4,7 @@
 #pragma once
 
 #include "model/OdTcCatalog.h"
+#include "model/OdTcTool.h"
 
 namespace tc {
 
@@ -57,7 +58,7 @@ public:
   virtual void openConfig() = 0;
   // The first item of that identity in any palette of any catalog, compared
   // exactly; null when there is none.
-  virtual OdTcCatalogItem* findTool(const OdString& id) = 0;
+  virtual OdTcTool* findTool(const OdString& id) = 0;
   virtual bool hasTool(const OdString& id) = 0;
   // Null makes the user's own catalog current, if one is open.
   virtual OdTcCatalog* setCurrentCatalog(OdTcCatalog* catalog) = 0;

@@ -31,7 +31,7 @@ public:
   void setIconSize(std::int32_t size) override { m_iconSize = size; }
   void cancelProcessing() override { m_processingBlocks = false; }
   void openConfig() override;
-  OdTcCatalogItem* findTool(const OdString& id) override;
+  OdTcTool* findTool(const OdString& id) override;
   bool hasTool(const OdString& id) override { return findTool(id) != nullptr; }
   OdTcCatalog* setCurrentCatalog(OdTcCatalog* catalog) override;
   void refreshCatalogs() override;

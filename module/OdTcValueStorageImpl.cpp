@@ -2,6 +2,7 @@
 #include "module/OdTcValueStorageImpl.h"
 
 #include "module/OdTcFileSystemItem.h"
+#include "model/OdTcToolActionAgent.h"
 #include "host/TcHost.h"
 
 #include "hostsdk/core/HostCore.h"
@@ -38,7 +39,7 @@ OdTcValueStorageImpl::OdTcValueStorageImpl()
                            "ON_OFF_Viewport", "ViewZoomScale"})
     m_specialCommands.append(name);
 
-  m_toolKindLabels["VisualStyle"] = "Visual style";
+  m_toolKindLabels = toolKindLabels();
 }
 
 OdString OdTcValueStorageImpl::catalogPaths()

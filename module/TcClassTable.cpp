@@ -10,7 +10,22 @@
 #include "model/OdTcPaletteSoftRef.h"
 #include "model/OdTcPaletteUi.h"
 #include "model/OdTcProperties.h"
+#include "model/OdTcProperty.h"
+#include "model/OdTcPropertyBag.h"
+#include "model/OdTcPropertyFilter.h"
+#include "model/OdTcTool.h"
+#include "model/OdTcToolRecords.h"
 #include "module/OdTcPaletteManager.h"
+#include "properties/OdTcLineTypeElements.h"
+#include "properties/OdTcPropertyCreateInfo.h"
+#include "properties/OdTcPropertyReference.h"
+#include "properties/OdTcTextStyleTableRecordImpl.h"
+#include "tools/OdTcCommandConveyor.h"
+#include "tools/OdTcToolBlockCommand.h"
+#include "tools/OdTcToolCommand.h"
+#include "tools/OdTcToolHatchCommand.h"
+#include "tools/OdTcToolRasterCommand.h"
+#include "tools/TcEditorReactor.h"
 
 #include "sdk/kernel/OdRxClass.h"
 
@@ -35,45 +50,79 @@ Row row(const char* name)
   return Row{name, &C::rxInit, &C::rxUninit, &C::desc};
 }
 
-// In the order of registration: parents before children.
+// In the order of registration: parents before children. The classes of
+// table record snapshots, create-infos and property references join with
+// the properties subsystem.
 const std::vector<Row>& rows()
 {
   static const std::vector<Row> table = {
       row<OdTcPersist>("OdTcPersist"),
+      row<OdTcSymbolTableRecord>("OdTcSymbolTableRecord"),
       row<OdTcCatalogItem>("OdTcCatalogItem"),
       row<OdTcDatabase>("OdTcDatabase"),
+      row<OdTcTool>("OdTcTool"),
       row<OdTcToolPalette>("OdTcToolPalette"),
       row<OdTcPaletteManager>("OdTcPaletteManager"),
       row<OdTcPaletteUiProperties>("OdTcPaletteUiProperties"),
+      row<OdTcProperty>("OdTcProperty"),
+      row<OdTcDatabaseProperty>("OdTcDatabaseProperty"),
+      row<OdTcPropertyBag>("OdTcPropertyBag"),
+      row<OdTcPropertyFilter>("OdTcPropertyFilter"),
       row<OdTcImageList>("OdTcImageList"),
       row<OdTcImage>("OdTcImage"),
       row<OdTcProperties>("OdTcProperties"),
+      row<OdTcToolCustomData>("OdTcToolCustomData"),
+      row<OdTcToolFlyout>("OdTcToolFlyout"),
+      row<OdTcStockToolRef>("OdTcStockToolRef"),
+      row<OdTcToolData>("OdTcToolData"),
       row<OdTcPropertyBasicInfo>("OdTcPropertyBasicInfo"),
+      row<OdTcToolActionAgent>("OdTcToolActionAgent"),
+      row<OdTcToolCommand>("OdTcToolCommand"),
+      row<OdTcToolBlockCommand>("OdTcToolBlockCommand"),
+      row<OdTcToolRasterCommand>("OdTcToolRasterCommand"),
+      row<OdTcToolHatchCommand>("OdTcToolHatchCommand"),
+      row<OdTcPropertyCreateInfo>("OdTcPropertyCreateInfo"),
+      row<OdTcLineTypeElement>("OdTcLineTypeElement"),
+      row<OdTcComplexLineTypeElement>("OdTcComplexLineTypeElement"),
+      row<OdTcTextStyleTableRecordCollection>("OdTcTextStyleTableRecordCollection"),
+      row<OdTcPropertyReference>("OdTcPropertyReference"),
       row<OdTcToolOrderList>("OdTcToolOrderList"),
       row<OdTcCatalogItemOrderList>("OdTcCatalogItemOrderList"),
+      row<OdTcToolSource>("OdTcToolSource"),
       row<OdTcCatalogView>("OdTcCatalogView"),
       row<OdTcList>("OdTcList"),
+      row<OdTcLineTypeElementsList>("OdTcLineTypeElementsList"),
       row<OdTcToolList>("OdTcToolList"),
       row<OdTcCatalog>("OdTcCatalog"),
       row<OdTcGroup>("OdTcGroup"),
       row<OdTcPaletteLoader>("OdTcPaletteLoader"),
       row<OdTcPaletteLoaderList>("OdTcPaletteLoaderList"),
+      row<OdTcSource>("OdTcSource"),
       row<OdTcGroupContentList>("OdTcGroupContentList"),
       row<OdTcPaletteSoftRef>("OdTcPaletteSoftRef"),
       row<OdTcGroupList>("OdTcGroupList"),
       row<OdTcCatalogItemList>("OdTcCatalogItemList"),
+      row<OdTcCommandConveyor>("OdTcCommandConveyor"),
+      row<TcEditorReactor>("TcEditorReactor"),
+      row<TcEditorReactorEx>("TcEditorReactorEx"),
   };
   return table;
 }
 
-// The order of deletion. OdTcDatabase stands first in place of OdTcTool,
-// which comes with the tools.
+// The order of deletion, which differs on purpose from that of
+// registration. The two editor reactors are not in it: they go after it.
 constexpr const char* kDeletionOrder[] = {
-    "OdTcDatabase", "OdTcPersist", "OdTcToolPalette", "OdTcPaletteManager", "OdTcPaletteUiProperties",
-    "OdTcImageList", "OdTcImage", "OdTcProperties", "OdTcPropertyBasicInfo", "OdTcToolOrderList",
-    "OdTcCatalogItemOrderList", "OdTcCatalogView", "OdTcCatalogItem", "OdTcCatalog", "OdTcGroup", "OdTcList",
-    "OdTcToolList", "OdTcPaletteLoader", "OdTcPaletteLoaderList", "OdTcGroupContentList", "OdTcPaletteSoftRef",
-    "OdTcGroupList", "OdTcCatalogItemList"};
+    "OdTcTool", "OdTcDatabase", "OdTcPersist", "OdTcSymbolTableRecord", "OdTcToolPalette", "OdTcPaletteManager",
+    "OdTcPaletteUiProperties", "OdTcProperty", "OdTcDatabaseProperty", "OdTcPropertyBag", "OdTcImageList",
+    "OdTcImage", "OdTcProperties", "OdTcToolCustomData", "OdTcToolFlyout", "OdTcStockToolRef", "OdTcToolData",
+    "OdTcPropertyBasicInfo", "OdTcToolActionAgent", "OdTcToolCommand", "OdTcToolBlockCommand",
+    "OdTcToolRasterCommand", "OdTcToolHatchCommand", "OdTcPropertyCreateInfo", "OdTcLineTypeElement",
+    "OdTcComplexLineTypeElement", "OdTcPropertyFilter", "OdTcTextStyleTableRecordCollection",
+    "OdTcPropertyReference", "OdTcToolOrderList", "OdTcCatalogItemOrderList", "OdTcToolSource", "OdTcCatalogView",
+    "OdTcCatalogItem", "OdTcCatalog", "OdTcGroup", "OdTcList", "OdTcLineTypeElementsList", "OdTcToolList",
+    "OdTcPaletteLoader", "OdTcPaletteLoaderList", "OdTcSource", "OdTcGroupContentList", "OdTcPaletteSoftRef",
+    "OdTcGroupList", "OdTcCatalogItemList", "OdTcCommandConveyor"};
+constexpr const char* kReactorClasses[] = {"TcEditorReactor", "TcEditorReactorEx"};
 
 const Row& rowNamed(const char* name)
 {
@@ -118,6 +167,8 @@ void TcClassRegistration::unregisterAll()
       throw OdError(eNotRegistered, OdString("class not registered: ") + name);
     r.rxUninit();
   }
+  for (const char* name : kReactorClasses)
+    rowNamed(name).rxUninit();
 }
 
 bool TcClassRegistration::firstOfDeletionRegistered()

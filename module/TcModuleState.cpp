@@ -2,13 +2,16 @@
 #include "module/TcModuleState.h"
 
 #include "module/OdTcPaletteManagerImpl.h"
+#include "module/TcToolCompletion.h"
 
-#include "host/TcToolCompletion.h"
 #include "images/TcImageClasses.h"
 #include "persist/OdTcTagTable.h"
 #include "persist/TcModelTags.h"
+#include "properties/TcPropertyClasses.h"
+#include "tools/TcToolClasses.h"
 
 #include "hostsdk/core/HostCore.h"
+#include "sdk/kernel/OdRxClass.h"
 
 #include <memory>
 
@@ -25,12 +28,36 @@ HostEdCompletion::Registry* completionRegistry()
   HostServices* services = hostServices();
   return services ? services->completionRegistry() : nullptr;
 }
+
+HostEditorEvents* editorEvents()
+{
+  HostServices* services = hostServices();
+  return services ? services->editorEvents() : nullptr;
+}
+
+// A module-wide object made through the class description of T: OdError
+// 255 without a description, OdError_NotThatKindOfClass when the object
+// made is of another class.
+template <class T>
+OdSmartPtr<T> createThroughClass()
+{
+  OdRxClass* description = T::desc();
+  if (!description)
+    throw OdError(eNotRegistered, "a class of the module is not registered");
+  OdRxObjectPtr object = description->create();
+  OdSmartPtr<T> typed = T::cast(object.get());
+  if (typed.isNull())
+    throw OdError_NotThatKindOfClass();
+  return typed;
+}
 } // namespace
 
 TcModuleState::FileLayer::FileLayer()
 {
   registerModelTags(OdTcTagTable::instance());
   registerImageClasses(OdTcTagTable::instance());
+  registerPropertyClasses(OdTcTagTable::instance());
+  registerToolTags(OdTcTagTable::instance());
   odtcSetFileStore(&store);
 }
 
@@ -42,14 +69,31 @@ TcModuleState::FileLayer::~FileLayer()
 
 TcModuleState::TcModuleState()
 {
-  m_valueStorage = OdTcValueStorageImpl::createNew();
-  m_paletteManager = OdTcPaletteManagerImpl::createNew(m_valueStorage);
-  m_stateSaver = OdTcStateSaverImpl::createNew();
-  m_paletteManager->loadCatalogs();
-  m_paletteVisible = false;
-  if (HostEdCompletion::Registry* registry = completionRegistry()) {
-    registry->addProvider("tools", toolCompletionProvider());
-    m_offersTools = true;
+  // What was made before a failure is undone: the host must not keep a
+  // reactor or a provider of a module that did not start.
+  try {
+    m_valueStorage = OdTcValueStorageImpl::createNew();
+    m_paletteManager = OdTcPaletteManagerImpl::createNew(m_valueStorage);
+    m_editorReactor = createThroughClass<TcEditorReactor>();
+    m_conveyor = OdTcConveyorImpl::createNew();
+    m_stateSaver = OdTcStateSaverImpl::createNew();
+    m_toolBuffer = OdTcToolBuffer::createNew(m_paletteManager);
+    m_commandConveyor = createThroughClass<OdTcCommandConveyor>();
+    m_pipeline = std::make_unique<TcToolPipeline>(m_editorReactor, m_commandConveyor);
+    TcToolPipeline::install(m_pipeline.get());
+    if (HostEditorEvents* events = editorEvents()) {
+      events->addReactor(m_editorReactor);
+      m_watchesEditor = true;
+    }
+    m_paletteManager->loadCatalogs();
+    m_paletteVisible = false;
+    if (HostEdCompletion::Registry* registry = completionRegistry()) {
+      registry->addProvider("tools", toolCompletionProvider());
+      m_offersTools = true;
+    }
+  } catch (...) {
+    releaseObjects();
+    throw;
   }
 }
 
@@ -60,9 +104,20 @@ TcModuleState::~TcModuleState()
 
 void TcModuleState::releaseObjects()
 {
+  // A tool that runs now is dropped without restoring anything.
+  if (std::exchange(m_watchesEditor, false))
+    if (HostEditorEvents* events = editorEvents())
+      events->removeReactor(m_editorReactor);
+  if (TcToolPipeline::current() == m_pipeline.get())
+    TcToolPipeline::install(nullptr);
+  m_pipeline.reset();
   m_valueStorage = nullptr;
   m_paletteManager = nullptr;
+  m_editorReactor = nullptr;
+  m_conveyor = nullptr;
   m_stateSaver = nullptr;
+  m_toolBuffer = nullptr;
+  m_commandConveyor = nullptr;
   if (std::exchange(m_offersTools, false))
     if (HostEdCompletion::Registry* registry = completionRegistry())
       registry->removeProvider("tools", nullptr);

@@ -5,12 +5,17 @@
 
 #include "module/OdTcPaletteManager.h"
 #include "module/OdTcStateSaverImpl.h"
+#include "module/OdTcToolBuffer.h"
 #include "module/OdTcValueStorageImpl.h"
 #include "module/TcClassTable.h"
 #include "module/TcUiInterfaces.h"
 
 #include "host/TcHost.h"
 #include "persist/TcFileStore.h"
+#include "tools/OdTcCommandConveyor.h"
+#include "tools/OdTcConveyorImpl.h"
+#include "tools/TcEditorReactor.h"
+#include "tools/TcToolPipeline.h"
 
 class OdRxModule;
 class QWidget;
@@ -35,7 +40,11 @@ public:
 
   OdTcValueStorageImpl* valueStorage() const { return m_valueStorage; }
   OdTcPaletteManager* paletteManager() const { return m_paletteManager; }
+  TcEditorReactor* editorReactor() const { return m_editorReactor; }
+  OdTcConveyorImpl* conveyor() const { return m_conveyor; }
   OdTcStateSaverImpl* stateSaver() const { return m_stateSaver; }
+  OdTcToolBuffer* toolBuffer() const { return m_toolBuffer; }
+  OdTcCommandConveyor* commandConveyor() const { return m_commandConveyor; }
 
   // The palette set window: null until first shown, and owned by the
   // docking frame, never freed here.
@@ -72,11 +81,17 @@ private:
   TcHostSession m_host;
   TcClassRegistration m_classes;
   FileLayer m_files;
-  // The module-wide objects, in the order of their making. editorReactor,
-  // conveyor, toolBuffer and commandConveyor join here.
+  // The module-wide objects, in the order of their making.
   OdTcValueStorageImplPtr m_valueStorage;
   OdTcPaletteManagerPtr m_paletteManager;
+  TcEditorReactorPtr m_editorReactor;
+  bool m_watchesEditor = false;
+  OdTcConveyorImplPtr m_conveyor;
   OdTcStateSaverImplPtr m_stateSaver;
+  OdTcToolBufferPtr m_toolBuffer;
+  OdTcCommandConveyorPtr m_commandConveyor;
+  // The road of a click, over the editor reactor and the command conveyor.
+  std::unique_ptr<TcToolPipeline> m_pipeline;
   bool m_offersTools = false;
   ITcUiPaletteSet* m_paletteSet = nullptr; // not owned
   bool m_paletteVisible = false;

@@ -1,7 +1,7 @@
 // The palette filer.
 #include "persist/OdTcPalettePropertiesFilerImpl.h"
 
-#include "hostsdk/core/HostCore.h"
+#include "host/TcMessages.h"
 
 #include <algorithm>
 
@@ -20,7 +20,7 @@ bool OdTcPalettePropertiesFilerImpl::openPalette(OdStreamBuf* stream, OdTcPersis
     return true;
   auto* palette = const_cast<TiXmlElement*>(findTopElement("Palette"));
   if (!palette || !palette->FirstChildElement()) {
-    hostMessageBox(Supp_Translate("Error while reading tool palette file."), "Verdani", 48);
+    messageText(1, true);
     return true;
   }
   // First pass: the palette itself; a nested "Palette" is no loader here.
@@ -62,10 +62,13 @@ OdTcFormattedValue OdTcPalettePropertiesFilerImpl::formatValue(const OdVariant& 
 OdString OdTcPalettePropertiesFilerImpl::tagOf(const TiXmlElement* element) const
 {
   const OdString name = textFromUtf8(element->Value());
-  if (name != "CreateInfo")
+  if (name != "CreateInfo" && name != "Color")
     return name;
   const TiXmlNode* parentNode = element->Parent();
   const OdString parent = parentNode ? textFromUtf8(parentNode->Value()) : OdString();
+  // The colour of a gradient is a colour record, not a general property.
+  if (name == "Color")
+    return parent == "GradientColor" ? OdString("GradientColorValue") : name;
   if (parent == "Layer")
     return "LayerCreateInfo";
   if (parent == "Color")

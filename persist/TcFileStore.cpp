@@ -3,6 +3,7 @@
 
 #include "persist/OdTcCatalogFilerImpl.h"
 #include "persist/OdTcPalettePropertiesFilerImpl.h"
+#include "persist/OdTcTagTable.h"
 #include "persist/TcPathTokens.h"
 
 #include "sdk/kernel/OdRxSystemServices.h"
@@ -188,6 +189,11 @@ OdString TcFileStore::keepAside(const OdString& path, OdString& reason)
     return OdString(copy);
   reason = OdString(file.errorString());
   return OdString();
+}
+
+OdTcPersistPtr TcFileStore::createByTag(const OdString& tag) const
+{
+  return OdTcTagTable::instance().createByTag(tag);
 }
 
 } // namespace tc

@@ -20,6 +20,7 @@ public:
   bool fileExists(const OdString& path) const override;
   bool removeFile(const OdString& path, OdString& reason) override;
   OdString keepAside(const OdString& path, OdString& reason) override;
+  OdTcPersistPtr createByTag(const OdString& tag) const override;
 };
 
 } // namespace tc

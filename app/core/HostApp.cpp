@@ -114,6 +114,7 @@ void HostApp::start(const HostStartOptions& options)
   m_sysVars->reset();
   m_variableStore->reset();
   HostBuiltinCommands::registerAll();
+  hostSetCmdRouteMap(OdString(HostPaths::installDataFolder() + QStringLiteral("/cmdroutemap.xml")));
   if (options.messageBoxesOnCommandLine) {
     hostSetMessageBoxHandler(&commandLineMessageBox);
     m_ownMessageBoxes = true;
@@ -178,6 +179,7 @@ void HostApp::shutdown()
   m_appProp->clear();
   m_config.reset();
   hostSetContext(nullptr, nullptr);
+  hostSetCmdRouteMap(OdString());
   if (m_ownMessageBoxes) {
     hostSetMessageBoxHandler(nullptr);
     m_ownMessageBoxes = false;

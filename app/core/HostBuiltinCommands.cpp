@@ -5,6 +5,7 @@
 #include "app/core/HostApp.h"
 #include "app/core/HostCommandLine.h"
 #include "app/core/HostCommandTable.h"
+#include "app/core/HostCommandTexts.h"
 #include "app/core/HostDocumentManager.h"
 #include "app/core/HostDrawCommands.h"
 #include "app/core/HostEditCommands.h"
@@ -182,6 +183,13 @@ void add(const char* name, HostCommandFn function)
   command.localName = command.globalName = OdString(name);
   command.kind = HostCommand::kHost;
   command.host = std::move(function);
+  HostCommandInfo texts;
+  if (HostCommandTexts::fill(command.globalName, texts)) {
+    command.displayText = texts.displayText;
+    command.menuText = texts.menuText;
+    command.description = texts.description;
+    command.className = texts.className;
+  }
   HostCommandTable::instance().add(command);
 }
 

@@ -2,6 +2,7 @@
 #include "app/core/HostCommandLine.h"
 
 #include "app/core/HostApp.h"
+#include "app/core/HostCompletionRegistryImpl.h"
 #include "app/core/HostDocumentManager.h"
 #include "app/core/HostEditorEventsImpl.h"
 #include "app/core/HostInputParser.h"
@@ -110,7 +111,8 @@ void HostCommandLine::pump()
       continue; // Enter with nothing typed
     if (m_echo)
       m_app.output().printLine("Command: " + input);
-    runCommandByName(input);
+    if (HostCommandTable::instance().find(input) || !chooseCompletion(input))
+      runCommandByName(input);
   }
   if (m_app.exitRequested())
     m_queue.clear();
@@ -174,10 +176,55 @@ HostCommandLine::Result HostCommandLine::runCommand(const HostCommand& command, 
   // a command ends (a tool's current layer) is taken back with it.
   if (outermost)
     endUndoSteps();
+  if (!isCommandActive())
+    runPosted();
   // Text the command sent to the command line runs now that it is over.
   if (!isCommandActive())
     pump();
   return result;
+}
+
+void HostCommandLine::post(std::function<void()> action)
+{
+  if (!action)
+    return;
+  m_posted.push_back(std::move(action));
+  if (!isCommandActive())
+    runPosted();
+}
+
+void HostCommandLine::runPosted()
+{
+  // An action may post again, or run a command that posts: those wait for
+  // the next round.
+  std::vector<std::function<void()>> round;
+  round.swap(m_posted);
+  for (auto& action : round) {
+    try {
+      action();
+    } catch (const OdError& e) {
+      m_app.output().printLine(OdString::formatted("An action of the command line failed: %s", e.description()));
+    } catch (const std::exception& e) {
+      m_app.output().printLine(OdString::formatted("An action of the command line failed: %s", OdString(e.what())));
+    }
+  }
+}
+
+bool HostCommandLine::chooseCompletion(const OdString& input)
+{
+  for (const HostEdCompletion::EntryPtr& entry : m_app.completionRegistry().entries()) {
+    if (entry->text.iCompare(input) != 0 || !entry->action)
+      continue;
+    try {
+      entry->action->execute();
+    } catch (const OdError& e) {
+      m_app.output().printLine(OdString::formatted("%s failed: %s", entry->text, e.description()));
+    } catch (const std::exception& e) {
+      m_app.output().printLine(OdString::formatted("%s failed: %s", entry->text, OdString(e.what())));
+    }
+    return true;
+  }
+  return false;
 }
 
 void HostCommandLine::markCancelled()

@@ -42,8 +42,15 @@ public:
   // waits for that command to read it or to end.
   void type(const OdString& text);
   // Runs the complete inputs that wait, one command after the other, until
-  // none is left or the host is told to exit.
+  // none is left or the host is told to exit. An input that names no
+  // command but is the text of a completion entry ("TOOL:Door") chooses
+  // that entry, as picking it from the completion list would.
   void pump();
+
+  // Runs `action` once no command runs: at once when none does, else after
+  // the outermost command has ended and its end has been told, before the
+  // input that waits. What a desktop host's event loop does with a click.
+  void post(std::function<void()> action);
 
   // Runs one command now, with the events of any command: commandWillStart,
   // then commandEnded, commandCancelled or commandFailed. Nothing it throws
@@ -102,6 +109,10 @@ private:
   void markCancelled();
   void notifyInput();
   void endUndoSteps();
+  void runPosted();
+  // Runs the action of the completion entry whose text is `input`; false
+  // when no entry has that text.
+  bool chooseCompletion(const OdString& input);
 
   HostApp& m_app;
   HostInputQueue m_queue;
@@ -113,4 +124,5 @@ private:
   std::function<void()> m_notifier;
   HostPrompt m_prompt;                // what waits now
   std::optional<HostInput> m_picked;  // a click or pick for it
+  std::vector<std::function<void()>> m_posted; // in the order posted
 };

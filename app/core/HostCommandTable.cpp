@@ -98,3 +98,18 @@ std::vector<OdString> HostCommandTable::groups() const
 {
   return m_groups;
 }
+
+bool HostCommandTable::findCommand(const OdString& name, HostCommandInfo& out) const
+{
+  HostCommandPtr command = find(name);
+  if (!command)
+    return false;
+  out = HostCommandInfo();
+  out.globalName = command->globalName;
+  out.localName = command->localName;
+  out.displayText = command->displayText;
+  out.menuText = command->menuText;
+  out.description = command->description;
+  out.className = command->className;
+  return true;
+}

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "hostsdk/core/CmdInterfaces.h"
+#include "hostsdk/core/HostCommandInfo.h"
 
 #include <functional>
 #include <memory>
@@ -28,10 +29,15 @@ struct HostCommand
   CmdFunction function = nullptr;
   CmdCreatorFn creator = nullptr;
   HostCommandFn host;
+  // What the host shows for the command; empty for a module's commands.
+  OdString displayText;
+  OdString menuText;
+  OdString description;
+  OdString className; // the class of the objects it draws
 };
 using HostCommandPtr = std::shared_ptr<const HostCommand>;
 
-class HostCommandTable
+class HostCommandTable : public HostCommandTableInfo
 {
 public:
   static HostCommandTable& instance();
@@ -48,6 +54,9 @@ public:
   HostCommandPtr find(const OdString& group, const OdString& name) const;
   std::vector<HostCommandPtr> commandsInGroup(const OdString& group) const;
   std::vector<OdString> groups() const;
+
+  // HostCommandTableInfo: the command that find(name) finds.
+  bool findCommand(const OdString& name, HostCommandInfo& out) const override;
 
 private:
   std::vector<HostCommandPtr> m_commands; // in the order of registration

@@ -2,6 +2,8 @@
 #include "app/core/HostServicesImpl.h"
 
 #include "app/core/HostApp.h"
+#include "app/core/HostCommandLine.h"
+#include "app/core/HostCommandTable.h"
 #include "app/core/HostCompletionRegistryImpl.h"
 #include "app/core/HostDocumentManager.h"
 #include "app/core/HostEditorEventsImpl.h"
@@ -37,4 +39,14 @@ HostSystemVariables* HostServicesImpl::systemVariables()
 HostVariableStore* HostServicesImpl::variableStore()
 {
   return &m_app.variableStore();
+}
+
+const HostCommandTableInfo* HostServicesImpl::commandTable()
+{
+  return &HostCommandTable::instance();
+}
+
+void HostServicesImpl::post(std::function<void()> action)
+{
+  m_app.commandLine().post(std::move(action));
 }

@@ -19,6 +19,8 @@ public:
   void setMainWindow(QWidget* window) { m_mainWindow = window; }
   HostSystemVariables* systemVariables() override;
   HostVariableStore* variableStore() override;
+  const HostCommandTableInfo* commandTable() override;
+  void post(std::function<void()> action) override;
 
 private:
   HostApp& m_app;

@@ -5,6 +5,7 @@
 #include "model/OdTcGroup.h"
 #include "model/OdTcImageList.h"
 #include "model/OdTcPaletteSoftRef.h"
+#include "model/OdTcTool.h"
 #include "model/OdTcToolPalette.h"
 #include "module/OdTcPaletteManager.h"
 #include "module/TcExports.h"
@@ -86,8 +87,12 @@ private:
     // A palette and its tools keep their pictures beside the palette's file.
     const OdString catalogFile = std::exchange(m_ownerFile, palette->path());
     item(depth, "palette", palette);
-    for (const OdTcCatalogItemPtr& tool : palette->sortedTools())
-      item(depth + 1, "tool", tool);
+    for (const OdTcCatalogItemPtr& item : palette->sortedTools()) {
+      OdTcToolPtr tool = OdTcTool::cast(item);
+      OdTcToolActionAgent* agent = tool ? tool->agent() : nullptr;
+      const OdString kind = agent ? agent->tagName().makeLower() : OdString("none");
+      this->item(depth + 1, "tool", item, " [" + kind + "]");
+    }
     m_ownerFile = catalogFile;
   }
 

@@ -1,9 +1,10 @@
 // The module of the reference host's tool palettes commands: it finds the
 // host by its exported lookups and registers ToolPalettesList,
-// ToolPalettesImages, ToolPalettesState and ToolPalettesSave with the host's
-// command factory.
+// ToolPalettesImages, ToolPalettesState, ToolPalettesSave and ToolPalettesRun
+// with the host's command factory.
 #include "app/tpcommands/TpCatalogList.h"
 #include "app/tpcommands/TpStateCommand.h"
+#include "app/tpcommands/TpToolRun.h"
 
 #include "hostsdk/core/AppInterfaces.h"
 #include "hostsdk/core/CmdInterfaces.h"
@@ -63,6 +64,14 @@ void toolPalettesSave()
   run(&tpcommands::saveCatalogs);
 }
 
+void toolPalettesRun()
+{
+  run([](HostCommandOutput& out) {
+    if (HostServices* host = services())
+      tpcommands::runTool(*host, out);
+  });
+}
+
 OdRxModule* g_module = nullptr;
 
 class TpCommandsModule : public OdRxModule
@@ -86,6 +95,7 @@ public:
       factory->registerCommandFunction("VERDANI", "ToolPalettesState", "ToolPalettesState", 0, &toolPalettesState, 0,
                                        0);
       factory->registerCommandFunction("VERDANI", "ToolPalettesSave", "ToolPalettesSave", 0, &toolPalettesSave, 0, 0);
+      factory->registerCommandFunction("VERDANI", "ToolPalettesRun", "ToolPalettesRun", 0, &toolPalettesRun, 0, 0);
     }
   }
   void uninitApp() override {}

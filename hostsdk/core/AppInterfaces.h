@@ -79,6 +79,17 @@ public:
   virtual bool removePropReactor(IPropReactor* reactor) = 0;
 };
 
+// The host's evaluator of expressions typed where a number is asked for
+// ("2*3"); a host may have none.
+class IRkExpressionEvaluator : public IRkUnknown
+{
+public:
+  RK_DECLARE_IID(IRkExpressionEvaluator);
+  // False, with the evaluator's reason in `message`, for a text it cannot
+  // evaluate.
+  virtual bool evaluate(const CXStringW& expression, double& value, CXStringW& message) = 0;
+};
+
 // The application; answers queryInterface for IProfile, IAppProp, IStdDirs,
 // IAppInterior and ICmdFactory.
 class IApp : public IRkUnknown

@@ -123,3 +123,21 @@ IApp* hostContextApp()
 {
   return g_app;
 }
+
+namespace {
+OdString& cmdRouteMap()
+{
+  static OdString path;
+  return path;
+}
+} // namespace
+
+OdString hostGetCmdRouteMap()
+{
+  return cmdRouteMap();
+}
+
+void hostSetCmdRouteMap(const OdString& path)
+{
+  cmdRouteMap() = path;
+}

@@ -53,3 +53,9 @@ int hostDefaultMessageBoxAnswer(unsigned style);
 void hostSetContext(HostServices* services, IApp* app);
 HostServices* hostContextServices();
 IApp* hostContextApp();
+
+// The host's command route map: an XML file that names, for each class of
+// drawing object, the command that draws one. The host sets its path when
+// it starts; empty while it has none.
+OdString hostGetCmdRouteMap();
+void hostSetCmdRouteMap(const OdString& path);

@@ -3,8 +3,11 @@
 // and the main window.
 #pragma once
 
+#include "hostsdk/core/HostCommandInfo.h"
 #include "hostsdk/core/HostEdCompletion.h"
 #include "hostsdk/core/HostEditorReactor.h"
+
+#include <functional>
 
 class HostDocManagerReactor;
 class HostSystemVariables;
@@ -82,4 +85,16 @@ public:
   // in a host that has none.
   virtual HostSystemVariables* systemVariables() { return nullptr; }
   virtual HostVariableStore* variableStore() { return nullptr; }
+  // The host's table of commands; null in a host that does not tell.
+  virtual const HostCommandTableInfo* commandTable() { return nullptr; }
+  // Runs `action` as a window event would run: once the command line is
+  // idle, that is at once when no command runs, else after the running
+  // command has ended and its end has been told. A module uses it for what
+  // a click in a window does, so that the command that asked for it is
+  // over before it happens. A host without a command line runs it at once.
+  virtual void post(std::function<void()> action)
+  {
+    if (action)
+      action();
+  }
 };

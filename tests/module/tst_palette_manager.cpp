@@ -3,6 +3,8 @@
 #include "tests/module/ManagerFixture.h"
 #include "tests/support/Unprivileged.h"
 
+#include "model/OdTcToolImpl.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -133,11 +135,16 @@ TEST_F(PaletteManager, removeCatalog_ignoresCase_findToolDoesNot)
   OdTcCatalog* current = m_manager->currentCatalog();
   OdTcToolPalettePtr palette = OdTcToolPaletteImpl::createNew();
   current->addChild(palette);
-  OdTcCatalogItemPtr tool = OdTcToolPaletteImpl::createNew(); // any item stands for a tool here
+  OdTcCatalogItemPtr notATool = OdTcToolPaletteImpl::createNew();
+  notATool->setId("item-id");
+  palette->paletteDatabase()->addChild(notATool);
+  OdTcToolPtr tool = OdTcToolImpl::createNew();
   tool->setId("tool-id");
   palette->paletteDatabase()->addChild(tool);
   EXPECT_TRUE(m_manager->hasTool("tool-id"));
+  EXPECT_EQ(m_manager->findTool("tool-id"), tool.get());
   EXPECT_EQ(m_manager->findTool("TOOL-ID"), nullptr);
+  EXPECT_FALSE(m_manager->hasTool("item-id"));
 
   m_reactor.calls.clear();
   EXPECT_FALSE(m_manager->removeCatalog("unknown"));
