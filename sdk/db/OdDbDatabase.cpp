@@ -8,6 +8,7 @@
 #include "sdk/db/OdDbLayout.h"
 #include "sdk/db/OdDbLinetypeTableRecord.h"
 #include "sdk/db/OdDbTextStyleTableRecord.h"
+#include "sdk/db/OdDmUtil.h"
 
 #include "sdk/kernel/OdRxClass.h"
 
@@ -158,6 +159,18 @@ OdString nameOf(OdDbObjectId id)
 {
   OdDbSymbolTableRecordPtr r = OdDbSymbolTableRecord::cast(id.openObject());
   return r.isNull() ? OdString() : r->getName();
+}
+
+// The header names a built-in arrow without the underscore of its block, as
+// drawing programs write it; a value that already names the same arrow, in
+// whatever spelling, is kept so that a drawing round trips unchanged.
+OdString arrowHeaderText(const OdString& blockName, const OdString& current)
+{
+  if (blockName.isEmpty() || !OdDmUtil::isBuiltInArrow(blockName))
+    return blockName;
+  if (!current.isEmpty() && OdDmUtil::arrowBlockName(current).iCompare(blockName) == 0)
+    return current;
+  return blockName.left(1) == "_" ? blockName.mid(1) : blockName;
 }
 } // namespace
 
@@ -450,7 +463,7 @@ void OdDbDatabase::setDimstyleData(const OdDbDimStyleTableRecord* s)
 #define ODDB_SD_S(n, N, c) if (c > 0) setHeaderString(up(#n), 1, s->n());
 #define ODDB_SD_C(n, N, c) setHeaderInt(up(#n), s->n().colorIndex(), 70);
 #define ODDB_SD_L(n, N, c) setHeaderInt(up(#n), int(s->n()), 70);
-#define ODDB_SD_A(n, N, c) setHeaderString(up(#n), 1, s->arrowName(s->n()));
+#define ODDB_SD_A(n, N, c) setHeaderString(up(#n), 1, arrowHeaderText(s->arrowName(s->n()), getHeaderString(up(#n))));
   ODDB_DIMVARS_DOUBLE(ODDB_SD_D)
   ODDB_DIMVARS_INT(ODDB_SD_I)
   ODDB_DIMVARS_BOOL(ODDB_SD_I)
