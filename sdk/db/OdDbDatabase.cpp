@@ -471,12 +471,12 @@ void OdDbDatabase::setDimstyleData(const OdDbDimStyleTableRecord* s)
   ODDB_DIMVARS_COLOR(ODDB_SD_C)
   ODDB_DIMVARS_LWEIGHT(ODDB_SD_L)
   ODDB_DIMVARS_BLOCK(ODDB_SD_A)
+  // A style without a text style or linetypes of its own stands for the
+  // defaults: left as they were, the previous style's would stay in force.
   const OdString style = nameOf(s->dimtxsty());
-  if (!style.isEmpty())
-    setHeaderString("$DIMTXSTY", 7, style);
+  setHeaderString("$DIMTXSTY", 7, style.isEmpty() ? nameOf(getTextStyleStandardId()) : style);
   const struct { const char* var; OdDbObjectId id; } ltypes[] = {
       {"$DIMLTYPE", s->dimltype()}, {"$DIMLTEX1", s->dimltex1()}, {"$DIMLTEX2", s->dimltex2()}};
   for (const auto& l : ltypes)
-    if (!l.id.isNull())
-      setHeaderString(l.var, 6, nameOf(l.id));
+    setHeaderString(l.var, 6, nameOf(l.id));
 }
