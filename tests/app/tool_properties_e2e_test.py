@@ -25,9 +25,17 @@ CURRENT_VALUES = ["$CECOLOR", "$CLAYER", "$CELTYPE", "$CELTSCALE", "$CELWEIGHT",
                   "$CETRANSPARENCY"]
 # The user's own settings in the empty drawing, made before any tool runs;
 # the names too, so that the header holds every value a tool sets.
-USER_SETTINGS = "".join("SETVAR\n%s\n%s\n" % pair for pair in (
-    ("CECOLOR", "4"), ("CELTSCALE", "0.5"), ("CELWEIGHT", "18"), ("CETRANSPARENCY", "20"), ("CLAYER", "0"),
-    ("CELTYPE", "ByLayer"), ("TEXTSTYLE", "Standard"), ("DIMSTYLE", "Standard")))
+def user_settings(color):
+    return "".join("SETVAR\n%s\n%s\n" % pair for pair in (
+        ("CECOLOR", color), ("CELTSCALE", "0.5"), ("CELWEIGHT", "18"), ("CETRANSPARENCY", "20"), ("CLAYER", "0"),
+        ("CELTYPE", "ByLayer"), ("TEXTSTYLE", "Standard"), ("DIMSTYLE", "Standard")))
+
+
+USER_SETTINGS = user_settings("4")
+# The prompts of the tools that start a command and leave its input to the
+# user: the Walls tool's LINE and the Label tool's TEXT.
+WALLS = "ToolPalettesRun\nWalls\n0,0\n100,0\n\n"
+LABEL = "ToolPalettesRun\nLabel\n10,20\n0\nWALLS\n\n"
 # Records the Walls and Label tools bring along, by table.
 MADE = {"layers": {"WALLS-NEW"}, "linetypes": {"WALLS_DASHED", "PIPE_GAS", "DIM_CENTER"},
         "styles": {"LT-TEXT", "LT-SHAPES", "WALL-TEXT", "DIM-TEXT"}, "dimstyles": {"WALL-DIM"}}
@@ -232,7 +240,7 @@ def check_label_text(name, doc, layer_default):
 # values, make their records, and put the user's settings back; the plot
 # style type alone is left as the tool set it.
 _, base = run("empty, no tool", "NewDocument\n" + USER_SETTINGS)
-out, doc = run("empty, Walls and Label", "NewDocument\n" + USER_SETTINGS + tools("Walls", "Label")
+out, doc = run("empty, Walls and Label", "NewDocument\n" + USER_SETTINGS + WALLS + LABEL
                + "SETVAR\nCLAYER\n\nSETVAR\nDIMSTYLE\n\n")
 if base and doc:
     check_walls_line("empty", doc)
@@ -261,6 +269,16 @@ if base and doc:
           "empty, use current: the circle in the user's settings: %r"
           % (circle.dxf.all_existing_dxf_attribs() if circle else None))
 
+# A tool whose command is cancelled at its first prompt puts the user's
+# settings back, a true colour among them, and leaves the records it made.
+settings = user_settings("RGB:10,20,30")
+_, base = run("empty, true colour, no tool", "NewDocument\n" + settings)
+_, doc = run("empty, Walls cancelled", "NewDocument\n" + settings + "ToolPalettesRun\nWalls\n0,0\n^C\n")
+if base and doc:
+    check(entity(doc, "LINE") is None, "cancelled: nothing drawn")
+    check_walls_records("cancelled", doc)
+    check_left_as_before("cancelled", base, doc, changed={"$CEPSNTYPE"})
+
 # Real drawings of other programs: the same tools, the drawing's own records
 # untouched, its header as the same drawing saved without them.
 REAL = ["DomCR__ACadSharp/samples/sample_AC1032_ascii.dxf", "DomCR__ACadSharp/samples/sample_AC1015_ascii.dxf",
@@ -269,7 +287,7 @@ for relative in REAL if external else []:
     drawing = os.path.join(external, relative)
     label = os.path.basename(relative)
     _, base = run("%s, no tool" % label, "", drawing)
-    _, doc = run("%s, Walls, Label and Current" % label, tools("Walls", "Label", "Current"), drawing)
+    _, doc = run("%s, Walls, Label and Current" % label, WALLS + LABEL + tools("Current"), drawing)
     if not (base and doc):
         continue
     _, dim_base = run("%s, its own dimension style made current" % label,
