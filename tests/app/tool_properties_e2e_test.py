@@ -273,7 +273,10 @@ if base and doc:
 # settings back, a true colour among them, and leaves the records it made.
 settings = user_settings("RGB:10,20,30")
 _, base = run("empty, true colour, no tool", "NewDocument\n" + settings)
-_, doc = run("empty, Walls cancelled", "NewDocument\n" + settings + "ToolPalettesRun\nWalls\n0,0\n^C\n")
+out, doc = run("empty, Walls cancelled", "NewDocument\n" + settings + "ToolPalettesRun\nWalls\n0,0\n^C\n"
+               "SETVAR\nCECOLOR\n\n")
+# The file has the index of a true current colour; the command line shows it whole.
+check('CECOLOR = "RGB:10,20,30"' in out, "cancelled: the user's true colour back")
 if base and doc:
     check(entity(doc, "LINE") is None, "cancelled: nothing drawn")
     check_walls_records("cancelled", doc)
