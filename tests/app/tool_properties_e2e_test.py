@@ -53,9 +53,11 @@ def close(a, b, tolerance=1e-6):
 
 def run(name, script, drawing=None):
     """Runs the script with the fixture as a shared catalog; gives the
-    transcript and the saved drawing, audited (None when missing)."""
+    transcript, the saved drawing, audited (None when missing), and the
+    catalog folder."""
     folder = tempfile.mkdtemp(prefix="verdani-toolprops-")
-    shutil.copytree(fixture, os.path.join(folder, "common", "Props", "ToolPalette"))
+    catalog = os.path.join(folder, "common", "Props", "ToolPalette")
+    shutil.copytree(fixture, catalog)
     env = dict(os.environ, HOME=folder, XDG_CONFIG_HOME=folder + "/config", XDG_DATA_HOME=folder + "/data")
     out = os.path.join(folder, "out.dxf")
     path = os.path.join(folder, "script.txt")
@@ -69,11 +71,11 @@ def run(name, script, drawing=None):
     check("already running" not in transcript, "%s: every tool's run ended with its command" % name)
     if not os.path.exists(out):
         check(False, "%s: no drawing was saved" % name)
-        return transcript, None
+        return transcript, None, catalog
     doc = ezdxf.readfile(out)
     auditor = doc.audit()
     check(not auditor.has_errors, "%s: ezdxf audit errors %s" % (name, [str(e) for e in auditor.errors]))
-    return transcript, doc
+    return transcript, doc, catalog
 
 
 def tools(*names):
@@ -239,8 +241,8 @@ def check_label_text(name, doc, layer_default):
 # An empty drawing with settings of the user's own: the tools draw with their
 # values, make their records, and put the user's settings back; the plot
 # style type alone is left as the tool set it.
-_, base = run("empty, no tool", "NewDocument\n" + USER_SETTINGS)
-out, doc = run("empty, Walls and Label", "NewDocument\n" + USER_SETTINGS + WALLS + LABEL
+_, base, _ = run("empty, no tool", "NewDocument\n" + USER_SETTINGS)
+out, doc, _ = run("empty, Walls and Label", "NewDocument\n" + USER_SETTINGS + WALLS + LABEL
                + "SETVAR\nCLAYER\n\nSETVAR\nDIMSTYLE\n\n")
 if base and doc:
     check_walls_line("empty", doc)
@@ -255,9 +257,16 @@ if base and doc:
     check('CLAYER = "0"' in out and 'DIMSTYLE = "Standard"' in out,
           "empty: the command line reads the user's layer and dimension style after the tools")
 
+# Run and saved, the palette keeps every tool's properties and snapshots
+# as they were read.
+_, _, catalog = run("saved", "NewDocument\n" + WALLS + LABEL + tools("Current") + "ToolPalettesSave\n")
+palette = os.path.join("Palettes", "Standards.vtc")
+with open(os.path.join(fixture, palette)) as f, open(os.path.join(catalog, palette)) as g:
+    check(f.read() == g.read(), "saved: the palette file as it was read, after its tools ran")
+
 # Every property "-- use current": the drawing's header is as it was, and the
 # circle takes the user's settings.
-_, doc = run("empty, Current", "NewDocument\n" + USER_SETTINGS + tools("Current"))
+_, doc, _ = run("empty, Current", "NewDocument\n" + USER_SETTINGS + tools("Current"))
 if base and doc:
     changes = header_changes(base, doc)
     check(not changes, "empty, use current: the header as it was: %r" % changes)
@@ -272,8 +281,8 @@ if base and doc:
 # A tool whose command is cancelled at its first prompt puts the user's
 # settings back, a true colour among them, and leaves the records it made.
 settings = user_settings("RGB:10,20,30")
-_, base = run("empty, true colour, no tool", "NewDocument\n" + settings)
-out, doc = run("empty, Walls cancelled", "NewDocument\n" + settings + "ToolPalettesRun\nWalls\n0,0\n^C\n"
+_, base, _ = run("empty, true colour, no tool", "NewDocument\n" + settings)
+out, doc, _ = run("empty, Walls cancelled", "NewDocument\n" + settings + "ToolPalettesRun\nWalls\n0,0\n^C\n"
                "SETVAR\nCECOLOR\n\n")
 # The file has the index of a true current colour; the command line shows it whole.
 check('CECOLOR = "RGB:10,20,30"' in out, "cancelled: the user's true colour back")
@@ -289,11 +298,11 @@ REAL = ["DomCR__ACadSharp/samples/sample_AC1032_ascii.dxf", "DomCR__ACadSharp/sa
 for relative in REAL if external else []:
     drawing = os.path.join(external, relative)
     label = os.path.basename(relative)
-    _, base = run("%s, no tool" % label, "", drawing)
-    _, doc = run("%s, Walls, Label and Current" % label, WALLS + LABEL + tools("Current"), drawing)
+    _, base, _ = run("%s, no tool" % label, "", drawing)
+    _, doc, _ = run("%s, Walls, Label and Current" % label, WALLS + LABEL + tools("Current"), drawing)
     if not (base and doc):
         continue
-    _, dim_base = run("%s, its own dimension style made current" % label,
+    _, dim_base, _ = run("%s, its own dimension style made current" % label,
                       "SETVAR\nDIMSTYLE\n%s\n" % base.header.get("$DIMSTYLE", "Standard"), drawing)
     check_walls_line(label, doc)
     check_label_text(label, doc, {"lineweight": base.header.get("$CELWEIGHT", -1),
@@ -307,7 +316,7 @@ for relative in REAL if external else []:
           and circle.dxf.get("color", 256) == base.header.get("$CECOLOR", 256),
           "%s: the Current tool's circle in the drawing's own layer and colour" % label)
 
-    _, doc = run("%s, Current" % label, tools("Current"), drawing)
+    _, doc, _ = run("%s, Current" % label, tools("Current"), drawing)
     if doc:
         changes = header_changes(base, doc)
         check(not changes, "%s, use current: the header as it was: %r" % (label, changes))
@@ -317,8 +326,8 @@ for relative in REAL if external else []:
 # carry besides is made.
 if external:
     drawing = os.path.join(external, REAL[0])
-    _, base = run("rival, no tool", "", drawing)
-    _, doc = run("rival", tools("Rival"), drawing)
+    _, base, _ = run("rival, no tool", "", drawing)
+    _, doc, _ = run("rival", tools("Rival"), drawing)
     if base and doc:
         check_new_records("rival", base, doc, {t: set() for t in MADE})
         check_existing_unchanged("rival", base, doc)
