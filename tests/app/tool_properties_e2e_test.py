@@ -17,15 +17,19 @@ import ezdxf
 console, fixture = sys.argv[1], sys.argv[2]
 external = sys.argv[3] if len(sys.argv) > 3 and os.path.isdir(sys.argv[3]) else None
 failures = []
+# Every run's folders, kept when something fails.
+root = tempfile.mkdtemp(prefix="verdani-toolprops-")
 
 # Header values that change with every save or every new object, whatever a
 # tool does; ezdxf sets the creation dates itself when it reads a drawing.
 VOLATILE = {"$HANDSEED", "$FINGERPRINTGUID", "$VERSIONGUID", "$TDCREATE", "$TDUCREATE"}
 CURRENT_VALUES = ["$CECOLOR", "$CLAYER", "$CELTYPE", "$CELTSCALE", "$CELWEIGHT", "$TEXTSTYLE", "$DIMSTYLE",
                   "$CETRANSPARENCY"]
-# The user's own settings in the empty drawing, made before any tool runs;
-# the names too, so that the header holds every value a tool sets.
+
+
 def user_settings(color):
+    """The user's own settings in the empty drawing, made before any tool
+    runs; the names too, so that the header holds every value a tool sets."""
     return "".join("SETVAR\n%s\n%s\n" % pair for pair in (
         ("CECOLOR", color), ("CELTSCALE", "0.5"), ("CELWEIGHT", "18"), ("CETRANSPARENCY", "20"), ("CLAYER", "0"),
         ("CELTYPE", "ByLayer"), ("TEXTSTYLE", "Standard"), ("DIMSTYLE", "Standard")))
@@ -55,7 +59,7 @@ def run(name, script, drawing=None):
     """Runs the script with the fixture as a shared catalog; gives the
     transcript, the saved drawing, audited (None when missing), and the
     catalog folder."""
-    folder = tempfile.mkdtemp(prefix="verdani-toolprops-")
+    folder = tempfile.mkdtemp(dir=root)
     catalog = os.path.join(folder, "common", "Props", "ToolPalette")
     shutil.copytree(fixture, catalog)
     env = dict(os.environ, HOME=folder, XDG_CONFIG_HOME=folder + "/config", XDG_DATA_HOME=folder + "/data")
@@ -337,6 +341,7 @@ if external:
               and line.dxf.color == 6, "rival: the line on the drawing's Layer1 and GAS_LINE, magenta")
 
 if failures:
-    print("%d failure(s)" % len(failures))
+    print("%d failure(s); the runs are in %s" % (len(failures), root))
     sys.exit(1)
+shutil.rmtree(root)
 print("tool properties end-to-end test passed")
