@@ -76,7 +76,11 @@ def run(name, script, drawing=None):
     if not os.path.exists(out):
         check(False, "%s: no drawing was saved" % name)
         return transcript, None, catalog
-    doc = ezdxf.readfile(out)
+    try:
+        doc = ezdxf.readfile(out)
+    except (IOError, ezdxf.DXFError) as e:
+        check(False, "%s: ezdxf cannot read the drawing: %s" % (name, e))
+        return transcript, None, catalog
     auditor = doc.audit()
     check(not auditor.has_errors, "%s: ezdxf audit errors %s" % (name, [str(e) for e in auditor.errors]))
     return transcript, doc, catalog
