@@ -265,6 +265,20 @@ if base and doc:
     check('CLAYER = "0"' in out and 'DIMSTYLE = "Standard"' in out,
           "empty: the command line reads the user's layer and dimension style after the tools")
 
+# U takes back the tool's command with all the tool did before it: the
+# records it made, and its plot style type; REDO brings them back.
+_, doc, _ = run("empty, Walls undone", "NewDocument\n" + USER_SETTINGS + WALLS + "U\n")
+if base and doc:
+    check(entity(doc, "LINE") is None, "undone: no line")
+    check_new_records("undone", base, doc, {t: set() for t in MADE})
+    changes = header_changes(base, doc)
+    check(not changes, "undone: the header as it was: %r" % changes)
+_, doc, _ = run("empty, Walls undone and redone", "NewDocument\n" + USER_SETTINGS + WALLS + "U\nREDO\n")
+if base and doc:
+    check_walls_line("redone", doc)
+    check_new_records("redone", base, doc, MADE)
+    check_left_as_before("redone", base, doc, changed={"$CEPSNTYPE"})
+
 # Run and saved, the palette keeps every tool's properties and snapshots
 # as they were read.
 _, _, catalog = run("saved", "NewDocument\n" + WALLS + LABEL + tools("Current") + "ToolPalettesSave\n")
