@@ -8,6 +8,7 @@
 #include "sdk/db/OdDbLayout.h"
 #include "sdk/db/OdDbLinetypeTableRecord.h"
 #include "sdk/db/OdDbTextStyleTableRecord.h"
+#include "sdk/db/OdDmUtil.h"
 
 #include "sdk/kernel/OdRxClass.h"
 
@@ -156,6 +157,18 @@ OdString nameOf(OdDbObjectId id)
 {
   OdDbSymbolTableRecordPtr r = OdDbSymbolTableRecord::cast(id.openObject());
   return r.isNull() ? OdString() : r->getName();
+}
+
+// The header names a built-in arrow without the underscore of its block, as
+// drawing programs write it; a value that already names the same arrow, in
+// whatever spelling, is kept so that a drawing round trips unchanged.
+OdString arrowHeaderText(const OdString& blockName, const OdString& current)
+{
+  if (blockName.isEmpty() || !OdDmUtil::isBuiltInArrow(blockName))
+    return blockName;
+  if (!current.isEmpty() && OdDmUtil::arrowBlockName(current).iCompare(blockName) == 0)
+    return current;
+  return blockName.left(1) == "_" ? blockName.mid(1) : blockName;
 }
 } // namespace
 
@@ -438,7 +451,7 @@ void OdDbDatabase::setDimstyleData(const OdDbDimStyleTableRecord* s)
 #define ODDB_SD_S(n, N, c) if (c > 0) setHeaderString(up(#n), 1, s->n());
 #define ODDB_SD_C(n, N, c) setHeaderInt(up(#n), s->n().colorIndex(), 70);
 #define ODDB_SD_L(n, N, c) setHeaderInt(up(#n), int(s->n()), 70);
-#define ODDB_SD_A(n, N, c) setHeaderString(up(#n), 1, s->arrowName(s->n()));
+#define ODDB_SD_A(n, N, c) setHeaderString(up(#n), 1, arrowHeaderText(s->arrowName(s->n()), getHeaderString(up(#n))));
   ODDB_DIMVARS_DOUBLE(ODDB_SD_D)
   ODDB_DIMVARS_INT(ODDB_SD_I)
   ODDB_DIMVARS_BOOL(ODDB_SD_I)
@@ -446,12 +459,12 @@ void OdDbDatabase::setDimstyleData(const OdDbDimStyleTableRecord* s)
   ODDB_DIMVARS_COLOR(ODDB_SD_C)
   ODDB_DIMVARS_LWEIGHT(ODDB_SD_L)
   ODDB_DIMVARS_BLOCK(ODDB_SD_A)
+  // A style without a text style or linetypes of its own stands for the
+  // defaults: left as they were, the previous style's would stay in force.
   const OdString style = nameOf(s->dimtxsty());
-  if (!style.isEmpty())
-    setHeaderString("$DIMTXSTY", 7, style);
+  setHeaderString("$DIMTXSTY", 7, style.isEmpty() ? nameOf(getTextStyleStandardId()) : style);
   const struct { const char* var; OdDbObjectId id; } ltypes[] = {
       {"$DIMLTYPE", s->dimltype()}, {"$DIMLTEX1", s->dimltex1()}, {"$DIMLTEX2", s->dimltex2()}};
   for (const auto& l : ltypes)
-    if (!l.id.isNull())
-      setHeaderString(l.var, 6, nameOf(l.id));
+    setHeaderString(l.var, 6, nameOf(l.id));
 }

@@ -210,8 +210,13 @@ private:
         codepage = true;
         continue;
       }
+      // The format gives the current colour its index alone: a true colour
+      // stays in the database and goes out as its nearest index, since
+      // readers refuse a header variable of several groups that is no point.
+      const bool indexOnly = v.name == "$CECOLOR";
       for (const OdDbDxfPair& p : v.pairs)
-        pair(p.code, p.value);
+        if (!indexOnly || p.code == 62)
+          pair(p.code, p.value);
     }
     if (!codepage) {
       pair(9, "$DWGCODEPAGE");

@@ -279,6 +279,66 @@ TEST(OdDbDatabase, setDimstyleData_copiesTheStyleIntoTheHeader)
   EXPECT_THROW(db->setDimstyleData(db->getLayerZeroId()), OdError);
 }
 
+// A style without a text style or linetypes of its own puts the defaults
+// into the header, not leaving the previous style's there.
+TEST(OdDbDatabase, setDimstyleData_clearsReferencesTheStyleLacks)
+{
+  OdDbDatabasePtr db = odDbCreateDatabase();
+  const OdDbObjectId dashedId = addNamed<OdDbLinetypeTableRecord>(db->getLinetypeTableId(), "DASHED");
+  const OdDbObjectId notesId = addNamed<OdDbTextStyleTableRecord>(db->getTextStyleTableId(), "NOTES");
+  const OdDbObjectId fullId = addNamed<OdDbDimStyleTableRecord>(db->getDimStyleTableId(), "Full");
+  OdDbDimStyleTableRecordPtr full = OdDbDimStyleTableRecord::cast(fullId.openObject(OdDb::kForWrite));
+  full->setDimtxsty(notesId);
+  full->setDimltype(dashedId);
+  full->setDimltex1(dashedId);
+  full->setDimltex2(dashedId);
+  const OdDbObjectId bareId = addNamed<OdDbDimStyleTableRecord>(db->getDimStyleTableId(), "Bare");
+  db->setDimstyleData(fullId);
+  EXPECT_EQ(db->getHeaderString("$DIMTXSTY"), OdString("NOTES"));
+  EXPECT_EQ(db->getHeaderString("$DIMLTEX2"), OdString("DASHED"));
+  db->setDimstyleData(bareId);
+  EXPECT_EQ(db->getHeaderString("$DIMTXSTY"), OdString("Standard"));
+  for (const char* var : {"$DIMLTYPE", "$DIMLTEX1", "$DIMLTEX2"})
+    EXPECT_EQ(db->getHeaderString(var, "unset"), OdString()) << var;
+}
+
+// The header holds built-in arrows as drawing programs write them, without
+// the underscore of the block, and keeps a spelling of the same arrow that
+// it already has; a block of the user's is named as it stands.
+TEST(OdDbDatabase, setDimstyleData_writesArrowsAsDrawingProgramsDo)
+{
+  struct Row
+  {
+    const char* arrow;
+    const char* before;
+    const char* header;
+  };
+  const Row rows[] = {{"_BoxBlank", "", "BoxBlank"},
+                      {"_BoxBlank", "BoxBlank", "BoxBlank"},
+                      {"_BoxBlank", "BOXBLANK", "BOXBLANK"},
+                      {"_BoxBlank", "_BoxBlank", "_BoxBlank"},
+                      {"_BoxBlank", "Dot", "BoxBlank"},
+                      {"Oblique", "", "Oblique"},
+                      {"", "Dot", ""}};
+  for (const Row& row : rows) {
+    OdDbDatabasePtr db = odDbCreateDatabase();
+    const OdDbObjectId id = addNamed<OdDbDimStyleTableRecord>(db->getDimStyleTableId(), "Arrows");
+    OdDbDimStyleTableRecordPtr d = OdDbDimStyleTableRecord::cast(id.openObject(OdDb::kForWrite));
+    d->setDimblk(OdString(row.arrow));
+    db->setHeaderString("$DIMBLK", 1, row.before);
+    db->setDimstyleData(id);
+    EXPECT_EQ(db->getHeaderString("$DIMBLK"), OdString(row.header)) << row.arrow << " over " << row.before;
+  }
+  // A block of the user's whose name looks like no arrow keeps its name.
+  OdDbDatabasePtr db = odDbCreateDatabase();
+  addNamed<OdDbBlockTableRecord>(db->getBlockTableId(), "_MyTick");
+  const OdDbObjectId id = addNamed<OdDbDimStyleTableRecord>(db->getDimStyleTableId(), "Own");
+  OdDbDimStyleTableRecordPtr d = OdDbDimStyleTableRecord::cast(id.openObject(OdDb::kForWrite));
+  d->setDimblk(db->recordId(db->getBlockTableId(), "_MyTick"));
+  db->setDimstyleData(id);
+  EXPECT_EQ(db->getHeaderString("$DIMBLK"), OdString("_MyTick"));
+}
+
 TEST(OdDmUtil, isBuiltInArrow_knowsNamesWithAndWithoutUnderscore)
 {
   EXPECT_TRUE(OdDmUtil::isBuiltInArrow("_ArchTick"));

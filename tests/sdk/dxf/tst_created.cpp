@@ -233,3 +233,22 @@ TEST(MadeDrawing, ezdxfReadsWhatTheDatabaseMade)
   const std::string first = odDxfWriteBuffer(db);
   EXPECT_TRUE(first == odDxfWriteBuffer(odDxfReadBuffer(first)));
 }
+
+// The header gives the current colour as an index only: a true colour goes
+// out as its nearest index, which readers take, and stays true in memory.
+TEST(MadeDrawing, trueCurrentColour_isWrittenAsItsIndex)
+{
+  OdDbDatabasePtr db = odDbCreateDatabase();
+  OdCmColor teal;
+  teal.setRGB(10, 120, 130);
+  db->setCECOLOR(teal);
+  const std::string text = odDxfWriteBuffer(db);
+  const std::size_t at = text.find("$CECOLOR");
+  ASSERT_NE(at, std::string::npos);
+  const std::string variable = text.substr(at, text.find("\n  9\n", at) - at);
+  EXPECT_EQ(variable, "$CECOLOR\n 62\n" + std::to_string(teal.colorIndex()));
+  EXPECT_EQ(db->getCECOLOR(), teal);
+  const OdCmColor read = odDxfReadBuffer(text)->getCECOLOR();
+  EXPECT_EQ(read.colorIndex(), teal.colorIndex());
+  EXPECT_FALSE(read.isByColor());
+}
