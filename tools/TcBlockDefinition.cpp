@@ -56,7 +56,8 @@ Outcome importDefinition(OdDbDatabase* database, const ToolBlockInsertParams& re
   OdDbDatabasePtr source = readSource(record.sourceFile);
   if (!source)
     return Outcome::kUnreadable;
-  const OdDbObjectId sourceBlockId = blockTable(source)->getAt(record.blockName);
+  OdDbSymbolTablePtr sourceBlocks = blockTable(source);
+  const OdDbObjectId sourceBlockId = sourceBlocks ? sourceBlocks->getAt(record.blockName) : OdDbObjectId();
   if (sourceBlockId.isNull())
     return Outcome::kMissing;
   // A broken definition leaves the drawing without it: the host's command
@@ -80,14 +81,17 @@ Outcome importDefinition(OdDbDatabase* database, const ToolBlockInsertParams& re
 }
 
 // The whole file as one definition, its own external references loaded
-// into it as content.
-bool importWholeFile(OdDbDatabase* database, const ToolBlockInsertParams& record)
+// into it as content. kMissing when the making failed.
+Outcome importWholeFile(OdDbDatabase* database, const ToolBlockInsertParams& record)
 {
   OdDbDatabasePtr source = readSource(record.sourceFile);
   if (!source)
-    return false;
+    return Outcome::kUnreadable;
   try {
-    for (OdDbSymbolTableIteratorPtr it = blockTable(source)->newIterator(); !it->done(); it->step()) {
+    OdDbSymbolTablePtr sourceBlocks = blockTable(source);
+    if (!sourceBlocks)
+      throw OdError(eInvalidInput, Supp_Translate("the drawing has no block table"));
+    for (OdDbSymbolTableIteratorPtr it = sourceBlocks->newIterator(); !it->done(); it->step()) {
       OdDbBlockTableRecordPtr block = OdDbBlockTableRecord::cast(it->getRecord());
       if (block && block->isFromExternalReference())
         OdDbXRefMan::load(it->getRecordId());
@@ -98,11 +102,11 @@ bool importWholeFile(OdDbDatabase* database, const ToolBlockInsertParams& record
   } catch (const OdError& error) {
     hostPrint(Supp_Translate("\nCould not make block \"%s\" of \"%s\": %s\n"), record.blockName, record.sourceFile,
               error.description());
-    return false;
+    return Outcome::kMissing;
   } catch (const std::exception&) {
-    return false;
+    return Outcome::kMissing;
   }
-  return true;
+  return Outcome::kDone;
 }
 
 } // namespace
@@ -115,26 +119,26 @@ bool bringBlockDefinition(HostDocument* document, const ToolBlockInsertParams& r
     return false;
   }
   OdDbDatabase* database = document ? document->database() : nullptr;
-  if (!database)
+  OdDbSymbolTablePtr blocks = database ? blockTable(database) : OdDbSymbolTablePtr();
+  if (!blocks)
     return false;
-  if (!blockTable(database)->getAt(record.blockName).isNull())
+  if (!blocks->getAt(record.blockName).isNull())
     return true;
 
   document->lockDocument(kLockName);
-  if (!record.wholeFile) {
-    switch (importDefinition(database, record)) {
-    case Outcome::kMissing:
-      // This road keeps the lock taken above.
+  const Outcome outcome = record.wholeFile ? importWholeFile(database, record) : importDefinition(database, record);
+  switch (outcome) {
+  case Outcome::kMissing:
+    // Both roads end here with the lock taken above still held: a missing
+    // block, or a whole file that could not be made a block.
+    if (!record.wholeFile)
       hostPrint(tcString(139), record.blockName, record.sourceFile);
-      return false;
-    case Outcome::kUnreadable:
-      document->unlockDocument();
-      return false;
-    case Outcome::kDone:
-      break;
-    }
-  } else if (!importWholeFile(database, record)) {
     return false;
+  case Outcome::kUnreadable:
+    document->unlockDocument();
+    return false;
+  case Outcome::kDone:
+    break;
   }
   document->unlockDocument();
   return true;

@@ -102,6 +102,7 @@ TOOLS = [
     ("Lost", block("CHAIR", 1, src("gone.dxf"))),
     ("Nope", block("NOPE", 1, src("furniture.dxf"))),
     ("Table", block("TABLE", 1, src("furniture.dxf"), Scale=0.5, AuxiliaryScale="DIMSCALE")),
+    ("Desk", block("TABLE", 1, src("furniture.dxf"), Scale=2, AuxiliaryScale="PLOTSCALE")),
     ("Room", block("room", 2, src("room.dxf"))),
     ("Site", block("site", 2, src("site.dxf"), InsertAs=2, XrefType=1, Rotation=math.pi / 2)),
     ("Hatch", hatch(PatternName="ANSI31", Angle=math.pi / 4, Scale=3)),
@@ -164,6 +165,8 @@ def run(name, script, drawing, image=True):
 def empty_plan():
     plan = ezdxf.new("R2018")
     plan.header["$INSUNITS"] = 4
+    # The standard scale of the model's plot settings: 1:4.
+    plan.layouts.get("Model").dxf_layout.dxf.unit_factor = 0.25
     return plan
 
 
@@ -194,6 +197,9 @@ Nope
 ToolPalettesRun
 Table
 0,1000
+ToolPalettesRun
+Desk
+0,3000
 ToolPalettesRun
 Room
 5000,0
@@ -261,8 +267,9 @@ if doc:
     check("LBL" in doc.styles, "the chair's text style came over")
     texts = [e for e in doc.blocks.get("CHAIR") if e.dxftype() == "TEXT"] if "CHAIR" in doc.blocks else []
     check(len(texts) == 1 and texts[0].dxf.style == "LBL", "the chair's text keeps its style")
-    tables = inserts(doc, "TABLE")
-    check(len(tables) == 1 and close(tables[0].dxf.xscale, 2), "the table at 0.5 times DIMSCALE 4")
+    tables = {tuple(t.dxf.insert)[1]: t.dxf.xscale for t in inserts(doc, "TABLE")}
+    check(len(tables) == 2 and close(tables.get(1000, 0), 2), "the table at 0.5 times DIMSCALE 4: %r" % tables)
+    check(close(tables.get(3000, 0), 0.5), "the desk at 2 times the plot scale 1:4: %r" % tables)
     rooms = inserts(doc, "room")
     check(len(rooms) == 1 and tuple(rooms[0].dxf.insert)[:2] == (5000, 0), "the whole file as block \"room\"")
     if "room" in doc.blocks:
