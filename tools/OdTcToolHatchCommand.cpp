@@ -38,6 +38,8 @@ bool OdTcToolHatchCommandImpl::setValue(const OdString& name, const OdVariant& v
     // A user-defined hatch has no pattern: its name is the marker. The
     // values come in the order of their names, "HatchType" first.
     m_patternName = m_hatchType == 0 ? Supp_Translate("_USER") : text;
+    if (m_hatchType != 0)
+      m_userPatternName = text;
   } else if (name == "SourceFile") {
     m_sourceFile = sourceFileFromFile(text);
   } else if (name == "Angle") {
@@ -110,6 +112,10 @@ void OdTcToolHatchCommandImpl::copyFrom(const OdRxObject* source)
   m_crosswise = src->m_crosswise;
   m_gradientColors->copyFrom(src->m_gradientColors);
   m_gradientColors->setParent(this);
+  m_userPatternName = src->m_userPatternName;
+  m_backgroundColor = src->m_backgroundColor;
+  m_previewColor = src->m_previewColor;
+  m_patternList = src->m_patternList;
 }
 
 namespace {

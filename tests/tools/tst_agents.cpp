@@ -344,6 +344,10 @@ TEST_F(Agents, hatchKindAndTypeShowAndEnableTheirRows)
   EXPECT_FALSE(property(agent, "Sample.Spacing")->isEnabled());
 
   OdString message;
+  // The pattern of the file comes back after a spell of user-defined lines.
+  ASSERT_TRUE(row(agent, "Sample.Type")->commitText("User defined", message));
+  ASSERT_TRUE(row(agent, "Sample.Type")->commitText("Standard", message));
+  EXPECT_EQ(agent->patternName(), "ANSI31");
   ASSERT_TRUE(row(agent, "Sample.Pattern name")->commitText("ANSI32", message));
   ASSERT_TRUE(row(agent, "Sample.Type")->commitText("User defined", message));
   EXPECT_EQ(agent->patternName(), "_USER");
