@@ -12,6 +12,9 @@ namespace {
 const std::map<int, const char*>& strings()
 {
   static const std::map<int, const char*> table = {
+      {129, "Drawing files (*.dxf)|*.dxf|All files (*.*)|*.*||"},
+      {130, "Image files (*.png;*.jpg;*.jpeg;*.bmp;*.gif;*.tif;*.tiff)|*.png;*.jpg;*.jpeg;*.bmp;*.gif;*.tif;*.tiff|"
+            "All files (*.*)|*.*||"},
       {133, "The tool palette you're loading contains multitools with pop-up menu\nwhich includes drafting and "
             "dimensioning commands.\nThis version doesn't support multitools,\r\n so they will be converted to "
             "regular with current tool."},
@@ -31,6 +34,9 @@ const std::map<int, const char*>& strings()
 const std::map<int, const char*>& errors()
 {
   static const std::map<int, const char*> table = {
+      {129, "Drawing files (*.dxf)|*.dxf|All files (*.*)|*.*||"},
+      {130, "Image files (*.png;*.jpg;*.jpeg;*.bmp;*.gif;*.tif;*.tiff)|*.png;*.jpg;*.jpeg;*.bmp;*.gif;*.tif;*.tiff|"
+            "All files (*.*)|*.*||"},
       {0, "Value must be an digit."},
       {1, "Error while reading tool palette file."},
       {2, "The drawing has no block definitions."},

@@ -1,6 +1,8 @@
 // Catalog locations and the shared tables.
 #include "module/OdTcValueStorageImpl.h"
 
+#include "tools/TcGradientNames.h"
+
 #include "module/OdTcFileSystemItem.h"
 #include "model/OdTcToolActionAgent.h"
 #include "host/TcHost.h"
@@ -19,18 +21,9 @@ OdSmartPtr<OdTcValueStorageImpl> OdTcValueStorageImpl::createNew()
 
 OdTcValueStorageImpl::OdTcValueStorageImpl()
 {
-  const char* gradients[][2] = {{"LINEAR", "Linear"},
-                                {"CYLINDER", "Cylinder"},
-                                {"INVCYLINDER", "Inversed-cylinder"},
-                                {"SPHERICAL", "Spherical"},
-                                {"HEMISPHERICAL", "Hemispherical"},
-                                {"CURVED", "Curved"},
-                                {"INVSPHERICAL", "Inversed-spherical"},
-                                {"INVHEMISPHERICAL", "Inversed-hemispherical"},
-                                {"INVCURVED", "Inversed-curved"}};
   std::int32_t index = 1;
-  for (const auto& g : gradients)
-    m_gradients[index++] = {OdString(g[0]), Supp_Translate(g[1])};
+  for (const auto& [key, shown] : gradientNames())
+    m_gradients[index++] = {OdString(key), Supp_Translate(shown)};
 
   // Commands that tool creation treats apart. "VdAbout" is the host's own.
   for (const char* name : {"imageframe", "MTextEdit", "VdAbout", "pface", "qparams", "refclose", "refset",

@@ -125,4 +125,15 @@ OdCmColor OdTcGradientColorsImpl::color(int index) const
   return index >= 0 && index < count() ? m_colors[size_t(index)]->color() : OdCmColor();
 }
 
+void OdTcGradientColorsImpl::setColor(int index, const OdCmColor& color)
+{
+  if (index < 0)
+    return;
+  while (count() <= index) {
+    m_colors.push_back(OdTcGradientColorImpl::createNew());
+    m_colors.back()->setParent(this);
+  }
+  m_colors[size_t(index)]->setColor(color);
+}
+
 } // namespace tc

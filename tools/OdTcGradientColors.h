@@ -64,6 +64,9 @@ public:
   int count() const { return int(m_colors.size()); }
   // The colour at `index`; the default colour when there is none.
   OdCmColor color(int index) const;
+  // Sets the colour at `index`, adding colours up to it where the list is
+  // shorter.
+  void setColor(int index, const OdCmColor& color);
 
 private:
   std::vector<OdSmartPtr<OdTcGradientColorImpl>> m_colors;

@@ -4,6 +4,10 @@
 
 #include "tools/OdTcToolActionAgentImplBase.h"
 
+#include "sdk/kernel/OdArray.h"
+
+class OdDbDatabase;
+
 namespace tc {
 
 class OdTcToolBlockCommand : public OdTcToolActionAgent
@@ -42,15 +46,23 @@ public:
   bool setValue(const OdString& name, const OdVariant& value) override;
   void writeBody(OdTcFiler* filer) override;
   void copyFrom(const OdRxObject* source) override;
+  // Keeps ATTREQ and sets it to whether attributes are asked for.
+  void beginExecute(HostDocument* document) override;
+  void endExecute(HostDocument* document) override;
+  // Leaves the insertion's record with the conveyor and types
+  // "__executetool" for it.
   bool execute(HostDocument* document) override;
   bool isImageSpecific() const override { return true; }
+  // The rows of the tool properties dialog; the file kind has two more.
+  void fillProperties() override;
 
   std::int32_t blockType() const override { return m_blockType; }
   void setBlockType(std::int32_t type) override { m_blockType = type; }
   OdString blockName() const override { return m_blockName; }
   void setBlockName(const OdString& name) override { m_blockName = name; }
   OdString sourceFile() const override { return m_sourceFile; }
-  void setSourceFile(const OdString& path) override { m_sourceFile = path; }
+  // For the file kind the block's name follows the file's.
+  void setSourceFile(const OdString& path) override;
   std::int32_t insertAs() const override { return m_insertAs; }
   std::int32_t xrefType() const override { return m_xrefType; }
   double scale() const override { return m_scale; }
@@ -59,6 +71,40 @@ public:
   bool promptAttributes() const override { return m_promptAttributes; }
   bool explode() const override { return m_explode; }
   OdString auxiliaryScale() const override { return m_auxiliaryScale; }
+
+  // What the rows read and write, as they show it.
+  OdString getName() const { return m_blockName; }
+  void setName(const OdString& name) { m_blockName = name; }
+  OdString getSourceFile() const { return m_sourceFile; }
+  OdString getInsertAs() const;
+  // An unknown text is a block; a block has no reference type.
+  void setInsertAs(const OdString& text);
+  OdArray<OdString> getInsertAsAsEnum() const;
+  OdString getXrefType() const;
+  void setXrefType(const OdString& text);
+  OdArray<OdString> getXrefTypeEnum() const;
+  double getScale() const { return m_scale; }
+  void setScale(double scale) { m_scale = scale; }
+  OdString getAux() const { return m_auxiliaryScale; }
+  void setAux(const OdString& text);
+  OdArray<OdString> getAuxScaleEnum() const;
+  double getRotation() const { return m_rotation; }
+  void setRotation(double angle) { m_rotation = angle; }
+  bool getIsAskForRotation() const { return m_promptRotation; }
+  void setIsAskForRotaion(bool on) { m_promptRotation = on; }
+  bool getIsQueryAttributes() const { return m_promptAttributes; }
+  void setIsQueryAttributes(bool on) { m_promptAttributes = on; }
+  bool getIsExplode() const { return m_explode; }
+  void setIsExplode(bool on) { m_explode = on; }
+  bool fileNameEnabler() const { return false; }
+  bool xrefTypeEnabler() const { return m_insertAs == 2; }
+  bool isQueryAttributes() const { return m_insertAs == 1; }
+  bool isExplodable() const { return m_insertAs == 1; }
+
+  // The insertion's scale in `database`: the tool's, times DIMSCALE or the
+  // standard scale of the active layout's plot settings where the
+  // auxiliary scale asks for one.
+  double effectiveScale(OdDbDatabase* database) const;
 
 private:
   std::int32_t m_blockType = 1;
@@ -73,6 +119,7 @@ private:
   bool m_explode = false;
   bool m_promptAttributes = true;
   OdString m_auxiliaryScale;
+  std::int32_t m_savedAttreq = 0;
 };
 
 } // namespace tc

@@ -2,6 +2,7 @@
 #include "tools/OdTcToolCommand.h"
 
 #include "model/OdTcImage.h"
+#include "properties/OdTcObjectProperties.h"
 
 #include "hostsdk/core/HostServices.h"
 
@@ -51,6 +52,17 @@ OdString OdTcToolCommandImpl::commandOfMacro(const OdString& macro)
     name = name.mid(caret + 2);
   name.remove(u'_');
   return name;
+}
+
+void OdTcToolCommandImpl::fillProperties()
+{
+  if (!m_propertyBag)
+    return;
+  m_propertyBag->clear();
+  using Self = OdTcToolCommandImpl;
+  using MacroRow = OdTcTextObjectPropertyImplEx<Self, Getter<Self, OdString, &Self::getCommandString>,
+                                                Setter<Self, OdString, &Self::setCommandString>>;
+  m_propertyBag->addProperty(MacroRow::createNew(this, "Command.Command string"));
 }
 
 bool OdTcToolCommandImpl::loadDefaultImage(OdTcImage* image)

@@ -15,6 +15,7 @@ class OdTcToolCommandImpl : public OdTcToolActionAgentImplBase<OdTcToolCommand>
 {
 public:
   static OdTcToolCommandPtr createNew(const OdString& macro = OdString());
+  OdTcToolCommandImpl() { fillProperties(); }
 
   OdString tagName() const override { return "Command"; }
   // The macro, as it stands, in an element of its own: "Macro".
@@ -25,6 +26,11 @@ public:
   bool execute(HostDocument* document) override;
   // The picture of the macro's command in the host's button resource.
   bool loadDefaultImage(OdTcImage* image) override;
+  // One row: the macro.
+  void fillProperties() override;
+
+  OdString getCommandString() const override { return m_commandString; }
+  void setCommandString(const OdString& text) override { m_commandString = text; }
 
   // The command a macro starts: the macro up to its first blank, after its
   // last "^X" pair, without "_" ("^C^C_LINE" gives "LINE").

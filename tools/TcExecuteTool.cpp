@@ -3,6 +3,7 @@
 #include "tools/TcExecuteTool.h"
 
 #include "tools/OdTcCommandConveyor.h"
+#include "tools/TcBlockDefinition.h"
 #include "tools/TcToolPipeline.h"
 
 #include "host/TcHost.h"
@@ -24,6 +25,23 @@ void runHostCommand(const char* name, IMemParam* parameters)
   if (!factory->getCommand(name, command.put()) || !command)
     return;
   command->run(parameters);
+}
+
+void insertBlock(HostDocument* document, OdTcCommandConveyor& conveyor)
+{
+  if (!conveyor.hasBlockParams())
+    return;
+  const ToolBlockInsertParams record = conveyor.takeBlockParams();
+  if (!bringBlockDefinition(document, record))
+    return;
+  auto parameters = CRkPtr<IMemParam>::attach(new_MemParam());
+  parameters->setValue("BC_RUN_BY_NAME_SCALE_ROT_EXPLODE", CRkVariant(OdString("Run")));
+  parameters->setValue("name", CRkVariant(record.blockName));
+  parameters->setValue("BC_SCALE", CRkVariant(record.scale));
+  parameters->setValue("BC_ROTATE_ANGLE", CRkVariant(record.rotation));
+  parameters->setValue("BC_ASK_ROTATION", CRkVariant(record.promptRotation));
+  parameters->setValue("BC_IS_EXPLODE", CRkVariant(record.explode));
+  runHostCommand("InsertBlock", parameters.get());
 }
 
 void attachReference(OdTcCommandConveyor& conveyor)
@@ -83,12 +101,12 @@ void executeToolCommand()
   if (!document->getString(OdString(), input) || input.isEmpty())
     return;
   const OdString word = executeToolKeyword(input);
-  if (word == "xref")
+  if (word == "block")
+    insertBlock(document, *pipeline->conveyor());
+  else if (word == "xref")
     attachReference(*pipeline->conveyor());
   else if (word == "raster")
     insertRaster(*pipeline->conveyor());
-  // "block" inserts with the block tool, which runs in a later version;
-  // any other word does nothing.
 }
 
 } // namespace tc
