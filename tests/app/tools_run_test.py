@@ -101,10 +101,13 @@ check(saved.count("<Tool ") == 11, "the saved palette has its eleven tools")
 check("<ItemName>Circle</ItemName>" in saved and "<ItemName>Multi circle</ItemName>" not in saved,
       "the converted multitool saved under the command's name")
 
-# A block tool is kept but does not run yet, and says so; the next tool runs.
+# A block tool whose source file is gone says so and draws nothing; the next
+# tool runs.
 out, folder = run("block", "NewDocument\nToolPalettesRun\nDoor\nToolPalettesRun\nLine\n"
                            "SaveAsDocument\n@OUT@\nExit\n")
-check("Block tools are not available yet" in out, "the block tool says it cannot run yet")
+check('Could not find the original file' in out and 'for block "DOOR"' in out,
+      "the block tool names its missing source")
+check(not [e for e in lines_of(folder) if e.dxftype() == "INSERT"], "no block reference without a source")
 check("already running" not in out, "the block tool's run ended with the next command")
 
 # Unknown tools and kinds that cannot run say so and change nothing.

@@ -119,6 +119,8 @@ protected:
     m_window = new MainWindow(HostApp::instance());
     m_window->resize(1000, 700);
     m_window->show();
+    // No shared catalog of the machine (the host's samples) offers tools here.
+    m_options.settings.insert(m_options.settings.begin(), OdString("CommonDirs=" + m_home.path() + "/common"));
     m_window->startHost(m_options);
   }
   void TearDown() override
