@@ -5,6 +5,7 @@
 #include "tests/tools/ToolTestHost.h"
 #include "tests/tools/ToolTestSupport.h"
 
+#include "images/OdTcImageImpl.h"
 #include "tools/TcBlockDefinition.h"
 #include "tools/TcEditorReactor.h"
 #include "tools/TcToolPipeline.h"
@@ -17,6 +18,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QImage>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -445,3 +447,22 @@ TEST_F(Agents, definitionFromASourceThatCannotBringIt)
 }
 
 } // namespace
+
+// A command tool without a picture of its own shows the host's button of
+// its command, drawn at the image's size; a macro without a command has none.
+TEST_F(Agents, commandToolsDefaultPictureIsItsCommandsButton)
+{
+  OdTcToolCommandPtr tool = OdTcToolCommandImpl::createNew("^C^C_CIRCLE 0,0 5");
+  OdTcImagePtr image = OdTcImageImpl::createNew(3);
+  ASSERT_TRUE(tool->loadDefaultImage(image));
+  EXPECT_EQ(image->src(), kProgramBtnRes);
+  EXPECT_EQ(image->resource(), OdString("CIRCLE"));
+  const QImage picture = image->getBitmap();
+  ASSERT_FALSE(picture.isNull());
+  EXPECT_EQ(picture.width(), image->cx());
+  const QImage line = OdTcImageImpl::createNew(3, kProgramBtnRes, "LINE")->getBitmap();
+  EXPECT_NE(picture.convertToFormat(QImage::Format_RGB32), line.convertToFormat(QImage::Format_RGB32));
+
+  OdTcImagePtr none = OdTcImageImpl::createNew(3);
+  EXPECT_FALSE(OdTcToolCommandImpl::createNew("^C^C")->loadDefaultImage(none));
+}
