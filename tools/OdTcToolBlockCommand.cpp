@@ -1,7 +1,9 @@
 // The block tool's payload.
 #include "tools/OdTcToolBlockCommand.h"
 
+#include "model/OdTcDatabase.h"
 #include "model/OdTcToolRecords.h"
+#include "persist/TcPathTokens.h"
 #include "properties/OdTcObjectProperties.h"
 #include "tools/OdTcCommandConveyor.h"
 #include "tools/TcDrawingVariables.h"
@@ -15,6 +17,7 @@
 #include "sdk/db/OdDbDatabase.h"
 #include "sdk/kernel/OdWcstol.h"
 
+#include <QDir>
 #include <QFileInfo>
 
 namespace tc {
@@ -267,6 +270,20 @@ double OdTcToolBlockCommandImpl::effectiveScale(OdDbDatabase* database) const
   return scale;
 }
 
+OdString OdTcToolBlockCommandImpl::sourceFileForRun()
+{
+  // A relative source travels with its palette, as the drawings of a shared
+  // catalog do: it is taken from the palette file's folder, never from the
+  // folder the host happened to start in. A token this machine has no
+  // folder for stays as it is and is not found.
+  if (m_sourceFile.isEmpty() || m_sourceFile.getAt(0) == u'%' || QDir::isAbsolutePath(m_sourceFile.qstring()))
+    return m_sourceFile;
+  OdTcDatabase* palette = database();
+  if (!palette || palette->path().isEmpty())
+    return m_sourceFile;
+  return makeAbsolutePath(m_sourceFile, palette->path());
+}
+
 bool OdTcToolBlockCommandImpl::execute(HostDocument* document)
 {
   TcToolPipeline* pipeline = TcToolPipeline::current();
@@ -274,7 +291,7 @@ bool OdTcToolBlockCommandImpl::execute(HostDocument* document)
     return false;
   ToolBlockInsertParams record;
   record.blockName = m_blockName;
-  record.sourceFile = m_sourceFile;
+  record.sourceFile = sourceFileForRun();
   record.scale = effectiveScale(document ? document->database() : nullptr);
   record.rotation = m_rotation;
   record.promptRotation = m_promptRotation;

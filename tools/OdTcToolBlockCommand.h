@@ -105,6 +105,9 @@ public:
   // standard scale of the active layout's plot settings where the
   // auxiliary scale asks for one.
   double effectiveScale(OdDbDatabase* database) const;
+  // The source file a run uses: a relative one taken from the folder of the
+  // palette file that holds the tool.
+  OdString sourceFileForRun();
 
 private:
   std::int32_t m_blockType = 1;

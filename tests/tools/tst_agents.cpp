@@ -12,6 +12,8 @@
 
 #include "properties/OdTcObjectPropertyImplBaseEx.h"
 
+#include "model/OdTcDatabaseImpl.h"
+
 #include "sdk/db/OdDbLayout.h"
 #include "sdk/db/OdDbSymbolTable.h"
 #include "sdk/dxf/OdDxf.h"
@@ -286,6 +288,41 @@ INSTANTIATE_TEST_SUITE_P(
     ::testing::Values(RecordCase{"1", "2", "2", false, false, true, 1, "__executetool^M\"<block>\" \n"},
                       RecordCase{"2", "1", "0", true, false, true, 1, "__executetool^M\"<block>\" \n"},
                       RecordCase{"2", "2", "2", false, true, false, 2, "__executetool^M\"<xref>\" \n"}));
+
+struct SourceCase
+{
+  const char* palette; // the palette file holding the tool; empty: none
+  const char* source;  // "SourceFile" as the file has it
+  const char* run;     // what the click hands on
+};
+
+class BlockSources : public Agents, public ::testing::WithParamInterface<SourceCase>
+{
+};
+
+TEST_P(BlockSources, aRelativeSourceIsTakenFromThePalettesFolder)
+{
+  const SourceCase c = GetParam();
+  auto agent = newBlock({{"BlockName", "CHAIR"}, {"SourceFile", c.source}});
+  OdTcDatabasePtr palette = OdTcDatabaseImpl::createNew();
+  palette->setPath(c.palette);
+  if (*c.palette)
+    agent->setParent(palette.get());
+  EXPECT_TRUE(agent->execute(document()));
+  EXPECT_EQ(m_conveyor.takeBlockParams().sourceFile, c.run);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, BlockSources,
+    ::testing::Values(SourceCase{"/cat/ToolPalette/Palettes/F.vtc", "../Blocks/f.dxf", "/cat/ToolPalette/Blocks/f.dxf"},
+                      SourceCase{"/cat/ToolPalette/Palettes/F.vtc", "..\\Blocks\\f.dxf",
+                                 "/cat/ToolPalette/Blocks/f.dxf"},
+                      SourceCase{"/cat/ToolPalette/Palettes/F.vtc", "f.dxf", "/cat/ToolPalette/Palettes/f.dxf"},
+                      SourceCase{"/cat/ToolPalette/Palettes/F.vtc", "/d/f.dxf", "/d/f.dxf"},
+                      // A token this machine has no folder for is not taken for a relative path.
+                      SourceCase{"/cat/ToolPalette/Palettes/F.vtc", "%UserProfileSamplesFolder9%/f.dxf",
+                                 "%UserProfileSamplesFolder9%/f.dxf"},
+                      SourceCase{"", "../Blocks/f.dxf", "../Blocks/f.dxf"}));
 
 // --- rows and setters ------------------------------------------------------
 
