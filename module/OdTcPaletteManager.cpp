@@ -252,17 +252,13 @@ void OdTcPaletteManagerImpl::openConfig()
 
 OdTcTool* OdTcPaletteManagerImpl::findTool(const OdString& id)
 {
-  for (auto& [path, catalog] : m_catalogs) {
-    auto palettes = catalog->enumeratePalettes();
-    while (OdTcCatalogItem* item = palettes->next()) {
-      auto tools = static_cast<OdTcToolPalette*>(item)->enumerateTools();
-      while (OdTcCatalogItem* tool = tools->next())
-        if (tool->id() == id)
-          if (OdTcToolPtr found = OdTcTool::cast(tool))
-            return found.get();
-    }
-  }
-  return nullptr;
+  OdTcTool* found = nullptr;
+  forEachTool(*this, [&](OdTcTool* tool) {
+    if (tool->id() == id)
+      found = tool;
+    return !found;
+  });
+  return found;
 }
 
 OdTcCatalog* OdTcPaletteManagerImpl::setCurrentCatalog(OdTcCatalog* catalog)

@@ -5,6 +5,7 @@
 
 #include "model/OdTcCatalog.h"
 #include "model/OdTcTool.h"
+#include "model/OdTcToolPalette.h"
 
 namespace tc {
 
@@ -70,5 +71,26 @@ public:
   virtual bool isProcessingBlocks() const = 0;
 };
 using OdTcPaletteManagerPtr = OdSmartPtr<OdTcPaletteManager>;
+
+// Calls `visit` with every tool of every catalog, in catalog order: the
+// catalogs, their palettes, each palette's tools as stored; stops early
+// when `visit` answers false.
+template <class Visit>
+void forEachTool(OdTcPaletteManager& manager, Visit visit)
+{
+  auto catalogs = manager.catalogs();
+  OdString path;
+  OdTcCatalog* catalog = nullptr;
+  while (catalogs->next(path, catalog)) {
+    auto palettes = catalog->enumeratePalettes();
+    while (OdTcCatalogItem* palette = palettes->next()) {
+      auto tools = static_cast<OdTcToolPalette*>(palette)->enumerateTools();
+      while (OdTcCatalogItem* item = tools->next())
+        if (OdTcToolPtr tool = OdTcTool::cast(item))
+          if (!visit(tool.get()))
+            return;
+    }
+  }
+}
 
 } // namespace tc

@@ -56,28 +56,20 @@ void provideEntries(const HostEdCompletion::EntryCallback& callback)
   OdTcPaletteManager* manager = odtcToolPaletteManager();
   if (!manager)
     return;
-  auto catalogs = manager->catalogs();
-  OdString path;
-  OdTcCatalog* catalog = nullptr;
-  while (catalogs->next(path, catalog)) {
-    auto palettes = catalog->enumeratePalettes();
-    while (OdTcCatalogItem* palette = palettes->next()) {
-      auto tools = static_cast<OdTcToolPalette*>(palette)->enumerateTools();
-      while (OdTcCatalogItem* item = tools->next()) {
-        OdTcToolPtr tool = OdTcTool::cast(item);
-        if (!tool)
-          continue;
-        auto action = std::make_shared<HostEdCompletion::CallFunction>([tool] {
-          HostServices* host = hostServices();
-          tool->execute(host ? host->currentDocument() : nullptr);
-        });
-        auto entry = std::make_shared<HostEdCompletion::Entry>(
-            OdString("TOOL:") + tool->displayName(), tool->description(), std::make_shared<ToolImage>(tool->image(1)), action);
-        g_entries.push_back(entry);
-        callback(entry);
-      }
-    }
-  }
+  forEachTool(*manager, [&](OdTcTool* found) {
+    OdTcToolPtr tool = found;
+    auto action = std::make_shared<HostEdCompletion::CallFunction>([tool] {
+      tcGuarded(Supp_Translate("The tool cannot run: %s\n"), [&] {
+        HostServices* host = hostServices();
+        tool->execute(host ? host->currentDocument() : nullptr);
+      });
+    });
+    auto entry = std::make_shared<HostEdCompletion::Entry>(
+        OdString("TOOL:") + tool->displayName(), tool->description(), std::make_shared<ToolImage>(tool->image(1)), action);
+    g_entries.push_back(entry);
+    callback(entry);
+    return true;
+  });
 }
 
 const HostEdCompletion::Provider* toolCompletionProvider()

@@ -22,20 +22,11 @@ using namespace tc;
 std::vector<OdTcToolPtr> toolsNamed(OdTcPaletteManager& manager, const OdString& name)
 {
   std::vector<OdTcToolPtr> found;
-  auto catalogs = manager.catalogs();
-  OdString path;
-  OdTcCatalog* catalog = nullptr;
-  while (catalogs->next(path, catalog)) {
-    auto palettes = catalog->enumeratePalettes();
-    while (OdTcCatalogItem* palette = palettes->next()) {
-      auto tools = static_cast<OdTcToolPalette*>(palette)->enumerateTools();
-      while (OdTcCatalogItem* item = tools->next()) {
-        OdTcToolPtr tool = OdTcTool::cast(item);
-        if (tool && tool->displayName().iCompare(name) == 0)
-          found.push_back(tool);
-      }
-    }
-  }
+  forEachTool(manager, [&](OdTcTool* tool) {
+    if (tool->displayName().iCompare(name) == 0)
+      found.push_back(tool);
+    return true;
+  });
   return found;
 }
 
