@@ -17,11 +17,20 @@ ODRX_DEFINE_MEMBERS(OdTcPropertyBasicInfo, OdTcPersist,
 
 OdString OdTcPropertiesImpl::now()
 {
-  OdTimeStamp stamp;
-  stamp.setPackedValue(std::time(nullptr));
-  OdTimeStamp universal;
-  stamp.getUniversalTime(universal);
-  return universal.ctime();
+  // Every item made while a catalog loads asks within the same second: one
+  // text, shared, instead of a formatting and a copy per item.
+  thread_local std::time_t lastSecond = -1;
+  thread_local OdString lastText;
+  const std::time_t second = std::time(nullptr);
+  if (second != lastSecond) {
+    OdTimeStamp stamp;
+    stamp.setPackedValue(second);
+    OdTimeStamp universal;
+    stamp.getUniversalTime(universal);
+    lastText = universal.ctime();
+    lastSecond = second;
+  }
+  return lastText;
 }
 
 OdTcPropertiesImpl::OdTcPropertiesImpl()

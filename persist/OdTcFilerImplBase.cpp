@@ -59,7 +59,18 @@ bool OdTcFilerImplBase::next()
 
 OdString OdTcFilerImplBase::tagOf(const TiXmlElement* element) const
 {
-  return textFromUtf8(element->Value());
+  return sharedText(element->Value());
+}
+
+OdString OdTcFilerImplBase::sharedText(const char* utf8) const
+{
+  if (!utf8)
+    return OdString();
+  const std::string_view key(utf8);
+  auto it = m_texts.find(key);
+  if (it == m_texts.end())
+    it = m_texts.emplace(std::string(key), OdString::fromUtf8(utf8, int(key.size()))).first;
+  return it->second;
 }
 
 bool OdTcFilerImplBase::readNext(OdTcValueMap& values)
@@ -73,11 +84,11 @@ bool OdTcFilerImplBase::readNext(OdTcValueMap& values)
       return true;
     }
   }
-  const OdString text = textFromUtf8(m_currentElement->GetText());
+  const OdString text = sharedText(m_currentElement->GetText());
   const TiXmlAttribute* attribute = m_currentElement->FirstAttribute();
   if (attribute) {
     for (; attribute; attribute = attribute->Next())
-      values[textFromUtf8(attribute->Name())] = OdVariant(textFromUtf8(attribute->Value()));
+      values[sharedText(attribute->Name())] = OdVariant(sharedText(attribute->Value()));
     if (!text.isEmpty())
       values[name] = OdVariant(text);
     next();
@@ -96,14 +107,14 @@ bool OdTcFilerImplBase::readAttributes(OdTcValueMap& values)
     return false;
   const TiXmlAttribute* attribute = m_currentElement->FirstAttribute();
   if (!attribute) {
-    const OdString text = textFromUtf8(m_currentElement->GetText());
+    const OdString text = sharedText(m_currentElement->GetText());
     if (text.isEmpty())
       return false;
-    values[textFromUtf8(m_currentElement->Value())] = OdVariant(text);
+    values[sharedText(m_currentElement->Value())] = OdVariant(text);
     return true;
   }
   for (; attribute; attribute = attribute->Next())
-    values[textFromUtf8(attribute->Name())] = OdVariant(textFromUtf8(attribute->Value()));
+    values[sharedText(attribute->Name())] = OdVariant(sharedText(attribute->Value()));
   return true;
 }
 

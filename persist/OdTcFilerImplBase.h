@@ -8,6 +8,9 @@
 #include <tinyxml.h>
 
 #include <deque>
+#include <string>
+#include <string_view>
+#include <unordered_map>
 #include <vector>
 
 namespace tc {
@@ -78,6 +81,9 @@ protected:
   bool beginOpen(OdStreamBuf* stream, OdTcPersist* root, bool write);
   const TiXmlElement* findTopElement(const char* name) const;
   void linkElement(TiXmlElement* element);
+  // A text of the file being read, made once per file: the many objects of a
+  // palette then share one copy of each name, value and repeated text.
+  OdString sharedText(const char* utf8) const;
 
   TiXmlDocument m_document;
   TiXmlElement* m_parentElement = nullptr;
@@ -93,7 +99,15 @@ protected:
   bool m_refused = false;
 
 private:
+  struct TextHash
+  {
+    using is_transparent = void;
+    std::size_t operator()(std::string_view text) const { return std::hash<std::string_view>()(text); }
+  };
+
   void parseStream(OdStreamBuf* stream);
+
+  mutable std::unordered_map<std::string, OdString, TextHash, std::equal_to<>> m_texts;
 };
 
 OdString textFromUtf8(const char* text);

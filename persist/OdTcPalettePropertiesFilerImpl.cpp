@@ -4,6 +4,7 @@
 #include "host/TcMessages.h"
 
 #include <algorithm>
+#include <cstring>
 
 namespace tc {
 
@@ -61,25 +62,25 @@ OdTcFormattedValue OdTcPalettePropertiesFilerImpl::formatValue(const OdVariant& 
 
 OdString OdTcPalettePropertiesFilerImpl::tagOf(const TiXmlElement* element) const
 {
-  const OdString name = textFromUtf8(element->Value());
-  if (name != "CreateInfo" && name != "Color")
-    return name;
+  // Asked of every element read: compared as the file's bytes, so that only
+  // the two names that depend on their parent cost more than a lookup.
+  const char* name = element->Value();
+  const bool isCreateInfo = std::strcmp(name, "CreateInfo") == 0;
+  if (!isCreateInfo && std::strcmp(name, "Color") != 0)
+    return sharedText(name);
   const TiXmlNode* parentNode = element->Parent();
-  const OdString parent = parentNode ? textFromUtf8(parentNode->Value()) : OdString();
+  const char* parent = parentNode ? parentNode->Value() : "";
   // The colour of a gradient is a colour record, not a general property.
-  if (name == "Color")
-    return parent == "GradientColor" ? OdString("GradientColorValue") : name;
-  if (parent == "Layer")
-    return "LayerCreateInfo";
-  if (parent == "Color")
-    return "ColorCreateInfo";
-  if (parent == "Textstyle")
-    return "TextStyleCreateInfo";
-  if (parent == "Linetype")
-    return "LineTypeCreateInfo";
-  if (parent == "Dimstyle")
-    return "DimStyleCreateInfo";
-  return name;
+  if (!isCreateInfo)
+    return std::strcmp(parent, "GradientColor") == 0 ? OdString("GradientColorValue") : sharedText(name);
+  static const std::pair<const char*, const char*> kCreateInfos[] = {
+      {"Layer", "LayerCreateInfo"},         {"Color", "ColorCreateInfo"},
+      {"Textstyle", "TextStyleCreateInfo"}, {"Linetype", "LineTypeCreateInfo"},
+      {"Dimstyle", "DimStyleCreateInfo"}};
+  for (const auto& [owner, tag] : kCreateInfos)
+    if (std::strcmp(parent, owner) == 0)
+      return sharedText(tag);
+  return sharedText(name);
 }
 
 bool OdTcPalettePropertiesFilerImpl::isSkipped(const OdString& tag) const

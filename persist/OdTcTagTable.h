@@ -5,7 +5,9 @@
 
 #include "model/OdTcPersist.h"
 
-#include <map>
+#include <QHashFunctions>
+
+#include <unordered_map>
 
 namespace tc {
 
@@ -27,8 +29,14 @@ public:
   void clear() { m_factories.clear(); }
 
 private:
+  struct NameHash
+  {
+    std::size_t operator()(const OdString& name) const { return qHash(name.qstring()); }
+  };
+
   OdTcTagTable() = default;
-  std::map<OdString, OdTcTagFactory> m_factories;
+  // Asked for every element of every file read: hashed, not ordered.
+  std::unordered_map<OdString, OdTcTagFactory, NameHash> m_factories;
 };
 
 } // namespace tc

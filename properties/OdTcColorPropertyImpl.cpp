@@ -2,6 +2,7 @@
 #include "properties/OdTcColorPropertyImpl.h"
 
 #include "properties/TcColorText.h"
+#include "properties/TcSharedText.h"
 
 #include "sdk/db/OdDbDatabase.h"
 
@@ -13,7 +14,7 @@ const char* const kCurrentColorBook = "curr_color";
 
 OdTcColorPropertyImpl::OdTcColorPropertyImpl()
 {
-  m_name = Supp_Translate("General.Color");
+  m_name = tcTranslate("General.Color");
   setCreateInfo(OdTcColorPropertyCreateInfoImpl::createNew());
 }
 

@@ -6,6 +6,7 @@
 
 #include "properties/OdTcPropertyCreateInfo.h"
 #include "properties/OdTcPropertyImplBase.h"
+#include "properties/TcSharedText.h"
 
 #include "model/TcValueText.h"
 
@@ -25,7 +26,7 @@ class OdTcDatabasePropertyImplBase : public OdTcPropertyImplBase<I>
 public:
   OdTcDatabasePropertyImplBase()
   {
-    this->m_category = "General";
+    this->m_category = tcSharedText("General");
     this->m_basicInfo->setValueTypeWritten(false);
   }
 

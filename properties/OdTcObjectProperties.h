@@ -5,6 +5,7 @@
 
 #include "properties/OdTcObjectPropertyImplBaseEx.h"
 #include "properties/TcColorText.h"
+#include "properties/TcSharedText.h"
 #include "properties/TcValueConversion.h"
 
 #include "hostsdk/core/HostCore.h"
@@ -21,6 +22,14 @@ public:                                                                         
     OdSmartPtr<ClassName> p = OdRxObjectImpl<ClassName>::createObject();                            \
     p->setOwner(owner);                                                                              \
     p->setName(Supp_Translate(displayName));                                                         \
+    return p;                                                                                        \
+  }                                                                                                  \
+  /* a fixed name, shared by every row of the kind */                                                \
+  static OdSmartPtr<ClassName> createNew(Owner* owner, const char* displayName)                     \
+  {                                                                                                  \
+    OdSmartPtr<ClassName> p = OdRxObjectImpl<ClassName>::createObject();                            \
+    p->setOwner(owner);                                                                              \
+    p->setName(tcTranslate(displayName));                                                            \
     return p;                                                                                        \
   }                                                                                                  \
   OdRxObjectPtr clone() const override { return tcCloneAs<ClassName, ClassName>(this); }                 \

@@ -1,5 +1,6 @@
 // The general properties of records.
 #include "properties/OdTcRecordPropertyImpls.h"
+#include "properties/TcSharedText.h"
 
 #include "sdk/db/OdDbDatabase.h"
 
@@ -72,7 +73,7 @@ bool OdTcRecordPropertyImplBase::takeText(const OdString& text)
 
 OdTcLayerPropertyImpl::OdTcLayerPropertyImpl()
 {
-  m_name = Supp_Translate("General.Layer");
+  m_name = tcTranslate("General.Layer");
 }
 
 OdSmartPtr<OdTcLayerPropertyImpl> OdTcLayerPropertyImpl::createNew()
@@ -114,7 +115,7 @@ OdTcSymbolTableRecordPtr OdTcLayerPropertyImpl::newSnapshot() const
 
 OdTcLineTypePropertyImpl::OdTcLineTypePropertyImpl()
 {
-  m_name = Supp_Translate("General.Linetype");
+  m_name = tcTranslate("General.Linetype");
 }
 
 OdSmartPtr<OdTcLineTypePropertyImpl> OdTcLineTypePropertyImpl::createNew()
@@ -162,7 +163,7 @@ bool OdTcLineTypePropertyImpl::writesCreateInfo() const
 
 OdTcTextStylePropertyImpl::OdTcTextStylePropertyImpl()
 {
-  m_name = Supp_Translate("General.Text style");
+  m_name = tcTranslate("General.Text style");
 }
 
 OdSmartPtr<OdTcTextStylePropertyImpl> OdTcTextStylePropertyImpl::createNew()
@@ -204,7 +205,7 @@ OdTcSymbolTableRecordPtr OdTcTextStylePropertyImpl::newSnapshot() const
 
 OdTcDimStylePropertyImpl::OdTcDimStylePropertyImpl()
 {
-  m_name = Supp_Translate("General.Dimstyle");
+  m_name = tcTranslate("General.Dimstyle");
 }
 
 OdSmartPtr<OdTcDimStylePropertyImpl> OdTcDimStylePropertyImpl::createNew()

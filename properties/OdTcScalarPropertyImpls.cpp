@@ -2,6 +2,7 @@
 #include "properties/OdTcScalarPropertyImpls.h"
 
 #include "properties/TcLineWeightText.h"
+#include "properties/TcSharedText.h"
 
 #include "sdk/db/OdDbDatabase.h"
 #include "sdk/kernel/OdWcstol.h"
@@ -40,7 +41,7 @@ bool isWord(const OdString& text, const char* word)
 
 OdTcLineTypeScalePropertyImpl::OdTcLineTypeScalePropertyImpl()
 {
-  m_name = Supp_Translate("General.Linetype scale");
+  m_name = tcTranslate("General.Linetype scale");
 }
 
 OdSmartPtr<OdTcLineTypeScalePropertyImpl> OdTcLineTypeScalePropertyImpl::createNew()
@@ -84,7 +85,7 @@ bool OdTcLineTypeScalePropertyImpl::takeText(const OdString& text)
 
 OdTcLineWeightPropertyImpl::OdTcLineWeightPropertyImpl()
 {
-  m_name = Supp_Translate("General.Line weight");
+  m_name = tcTranslate("General.Line weight");
 }
 
 OdSmartPtr<OdTcLineWeightPropertyImpl> OdTcLineWeightPropertyImpl::createNew()
@@ -159,7 +160,7 @@ bool OdTcLineWeightPropertyImpl::takeText(const OdString& text)
 
 OdTcPlotStylePropertyImpl::OdTcPlotStylePropertyImpl()
 {
-  m_name = Supp_Translate("General.Plot style");
+  m_name = tcTranslate("General.Plot style");
 }
 
 OdSmartPtr<OdTcPlotStylePropertyImpl> OdTcPlotStylePropertyImpl::createNew()
@@ -190,7 +191,7 @@ void OdTcPlotStylePropertyImpl::apply(OdDbDatabase* database)
 
 OdTcTransparencyPropertyImpl::OdTcTransparencyPropertyImpl()
 {
-  m_name = Supp_Translate("General.Transparency");
+  m_name = tcTranslate("General.Transparency");
 }
 
 OdSmartPtr<OdTcTransparencyPropertyImpl> OdTcTransparencyPropertyImpl::createNew()
@@ -248,7 +249,7 @@ bool OdTcTransparencyPropertyImpl::takeText(const OdString& text)
 
 OdTcTableStylePropertyImpl::OdTcTableStylePropertyImpl()
 {
-  m_name = Supp_Translate("Table style");
+  m_name = tcTranslate("Table style");
 }
 
 OdSmartPtr<OdTcTableStylePropertyImpl> OdTcTableStylePropertyImpl::createNew()
