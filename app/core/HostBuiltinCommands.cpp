@@ -12,6 +12,7 @@
 #include "app/core/HostHatchCommands.h"
 #include "app/core/HostInsertCommands.h"
 #include "app/core/HostOutput.h"
+#include "app/core/HostPrompts.h"
 
 #include "sdk/dxf/OdDxf.h"
 
@@ -175,6 +176,19 @@ void setDir(IMemParam* parameters)
 } // namespace
 
 namespace HostBuiltinCommands {
+
+void say(const OdString& text)
+{
+  HostApp::instance().output().printLine(text);
+}
+
+OdDbDatabase* drawingOrSay(HostPrompts& prompts)
+{
+  OdDbDatabase* db = prompts.database();
+  if (!db)
+    say("No document is open: open or start a drawing first.");
+  return db;
+}
 
 void add(const char* name, HostCommandFn function)
 {

@@ -6,6 +6,9 @@
 #include "app/core/HostCommandTable.h"
 
 class HostApp;
+class HostPrompts;
+class OdDbDatabase;
+class OdString;
 
 namespace HostBuiltinCommands {
 
@@ -16,5 +19,10 @@ void registerAll();
 
 // Adds one host command to the group "VERDANI".
 void add(const char* name, HostCommandFn function);
+
+// What the commands share: a line on the command line, and the drawing a
+// command works on, or null after telling the user there is none.
+void say(const OdString& text);
+OdDbDatabase* drawingOrSay(HostPrompts& prompts);
 
 } // namespace HostBuiltinCommands

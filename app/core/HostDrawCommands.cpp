@@ -27,19 +27,9 @@ HostApp& app()
   return HostApp::instance();
 }
 
-void say(const OdString& text)
-{
-  app().output().printLine(text);
-}
+using HostBuiltinCommands::say;
+using HostBuiltinCommands::drawingOrSay;
 
-// The drawing of the current document, or null after telling the user.
-OdDbDatabase* drawingOrSay(HostPrompts& prompts)
-{
-  OdDbDatabase* db = prompts.database();
-  if (!db)
-    say("No document is open: open or start a drawing first.");
-  return db;
-}
 
 HostPromptOptions nextPointOptions(const OdGePoint3d& from, std::vector<OdString> keywords)
 {

@@ -18,10 +18,7 @@ HostApp& app()
   return HostApp::instance();
 }
 
-void say(const OdString& text)
-{
-  app().output().printLine(text);
-}
+using HostBuiltinCommands::say;
 
 HostDocumentImpl* documentOrSay()
 {

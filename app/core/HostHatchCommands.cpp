@@ -27,10 +27,8 @@ HostApp& app()
   return HostApp::instance();
 }
 
-void say(const OdString& text)
-{
-  app().output().printLine(text);
-}
+using HostBuiltinCommands::say;
+using HostBuiltinCommands::drawingOrSay;
 
 OdResBufPtr var(const char* name)
 {
@@ -256,11 +254,9 @@ bool patternData(OdDbHatch::Data& d, OdString& description)
 void fastHatchCommand(IMemParam*)
 {
   HostPrompts prompts(app());
-  OdDbDatabase* db = prompts.database();
-  if (!db) {
-    say("No document is open: open or start a drawing first.");
+  OdDbDatabase* db = drawingOrSay(prompts);
+  if (!db)
     return;
-  }
   OdDbHatch::Data d;
   OdString description;
   if (!patternData(d, description))
@@ -292,11 +288,9 @@ OdCmColor mixed(const OdCmColor& a, std::uint8_t r, std::uint8_t g, std::uint8_t
 void fastGradientCommand(IMemParam*)
 {
   HostPrompts prompts(app());
-  OdDbDatabase* db = prompts.database();
-  if (!db) {
-    say("No document is open: open or start a drawing first.");
+  OdDbDatabase* db = drawingOrSay(prompts);
+  if (!db)
     return;
-  }
   const int index = var("GFNAME")->getInt16();
   const char* name = kGradientNames[index >= 1 && index <= 9 ? index - 1 : 0];
   const bool oneColor = var("GFCLRSTATE")->getInt16() == 0;

@@ -33,18 +33,9 @@ HostApp& app()
   return HostApp::instance();
 }
 
-void say(const OdString& text)
-{
-  app().output().printLine(text);
-}
+using HostBuiltinCommands::say;
+using HostBuiltinCommands::drawingOrSay;
 
-OdDbDatabase* drawingOrSay(HostPrompts& prompts)
-{
-  OdDbDatabase* db = prompts.database();
-  if (!db)
-    say("No document is open: open or start a drawing first.");
-  return db;
-}
 
 // --- named parameters: a value in the bag, or nothing -----------------------
 

@@ -181,19 +181,7 @@ bool HostUndo::undo()
   }
   if (m_undo.empty())
     return false;
-  Step step = std::move(m_undo.back());
-  m_undo.pop_back();
-  m_replaying = true;
-  try {
-    takeBack(step);
-  } catch (...) {
-    m_replaying = false;
-    afterReplay();
-    throw;
-  }
-  m_replaying = false;
-  afterReplay();
-  m_redo.push_back(std::move(step));
+  replay(m_undo, m_redo, &HostUndo::takeBack);
   return true;
 }
 
@@ -201,11 +189,19 @@ bool HostUndo::redo()
 {
   if (!m_database || m_redo.empty())
     return false;
-  Step step = std::move(m_redo.back());
-  m_redo.pop_back();
+  replay(m_redo, m_undo, &HostUndo::bringBack);
+  return true;
+}
+
+// Moves the last step of `from` to `to` after applying it; what the
+// replay changes is not journaled, and the views learn of it either way.
+void HostUndo::replay(std::vector<Step>& from, std::vector<Step>& to, void (HostUndo::*apply)(Step&))
+{
+  Step step = std::move(from.back());
+  from.pop_back();
   m_replaying = true;
   try {
-    bringBack(step);
+    (this->*apply)(step);
   } catch (...) {
     m_replaying = false;
     afterReplay();
@@ -213,6 +209,5 @@ bool HostUndo::redo()
   }
   m_replaying = false;
   afterReplay();
-  m_undo.push_back(std::move(step));
-  return true;
+  to.push_back(std::move(step));
 }

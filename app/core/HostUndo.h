@@ -84,6 +84,7 @@ private:
   void takeBack(Step& step);
   void bringBack(Step& step);
   void afterReplay();
+  void replay(std::vector<Step>& from, std::vector<Step>& to, void (HostUndo::*apply)(Step&));
 
   OdDbDatabase* m_database; // not owned: the document owns both
   Step m_open;              // being recorded
